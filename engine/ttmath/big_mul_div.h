@@ -1,0 +1,205 @@
+// Big::Mul, Div, MulUInt, MulInt and Mod.
+//
+// Mul and Div form the exact double-width product or floor quotient of the mantissas,
+// normalise it and round the kept half on the discarded half (Div never looks at the
+// remainder). The exponent is adjusted in two steps, by the normalisation shift and
+// then by the other operand's exponent, and a carry in either step counts: a result
+// near the ends of the range can fail although it would fit.
+#ifndef TTMATH_BIG_MUL_DIV_H
+#define TTMATH_BIG_MUL_DIV_H
+
+namespace ttmath {
+
+template<uint exp, uint man>
+uint Big<exp, man>::Mul(const Big & ss2_, bool round)
+{
+    if (this == &ss2_) {
+        Big copy(ss2_);
+        return Mul(copy, round);
+    }
+    const Big & ss2 = ss2_;
+
+    if (IsNan() || ss2.IsNan())
+        return CheckCarry(1);
+    if (IsZero())
+        return 0;
+    if (ss2.IsZero()) {
+        SetZero();
+        return 0;
+    }
+
+    uint p[2 * man];
+    product::full<man>(p, mantissa.table, ss2.mantissa.table);
+    uint shift = words::leading_zeros(p, 2 * man);
+    if (shift)
+        words::shl(p, 2 * man, shift);
+
+    uint c = 0;
+    // mantissa_bits - shift as a word: it wraps for products of unnormalised
+    // mantissas and is then added zero-extended.
+    uint k = mantissa_bits - shift;
+    if (k != 0)
+        c += exponent.Add(ExponentFromWord(k));
+    c += exponent.Add(ss2.exponent);
+
+    words::copy(mantissa.table, p + man, man);
+    if (round && (p[man - 1] & TTMATH_UINT_HIGHEST_BIT)) {
+        bool is_half = p[man - 1] == TTMATH_UINT_HIGHEST_BIT && words::is_zero(p, man - 1);
+        c += RoundHalfToEven(is_half, true);
+    }
+
+    if (IsSign() == ss2.IsSign())
+        ClearInfoBit(TTMATH_BIG_SIGN);
+    else
+        SetInfoBit(TTMATH_BIG_SIGN);
+
+    c += Standardizing();
+    return CheckCarry(c);
+}
+
+template<uint exp, uint man>
+uint Big<exp, man>::Div(const Big & ss2_, bool round)
+{
+    if (this == &ss2_) {
+        Big copy(ss2_);
+        return Div(copy, round);
+    }
+    const Big & ss2 = ss2_;
+
+    if (IsNan() || ss2.IsNan())
+        return CheckCarry(1);
+    if (ss2.IsZero()) {
+        SetNan();
+        return 2;
+    }
+    if (IsZero())
+        return 0;
+
+    // q = floor(mantissa * 2^N / ss2.mantissa), 2N bits. A zero divisor mantissa
+    // without the zero flag leaves the dividend as it is.
+    uint q[2 * man];
+    uint u[2 * man];
+    words::fill(u, man, 0);
+    words::copy(u + man, mantissa.table, man);
+    std::size_t vn = words::used_words(ss2.mantissa.table, man);
+    std::size_t un = words::used_words(u, 2 * man);
+    if (vn == 0) {
+        words::copy(q, u, 2 * man);
+    } else {
+        words::fill(q, 2 * man, 0);
+        if (un >= vn) {
+            uint scratch[3 * man + 1];
+            quotient::floor_quotient(q, u, un, ss2.mantissa.table, vn, scratch);
+        }
+    }
+
+    uint shift = words::leading_zeros(q, 2 * man);
+    if (shift)
+        words::shl(q, 2 * man, shift);
+
+    uint c = 0;
+    if (shift)
+        c += exponent.SubInt(shift);
+    c += exponent.Sub(ss2.exponent);
+
+    words::copy(mantissa.table, q + man, man);
+    if (round && (q[man - 1] & TTMATH_UINT_HIGHEST_BIT)) {
+        bool is_half = q[man - 1] == TTMATH_UINT_HIGHEST_BIT && words::is_zero(q, man - 1);
+        c += RoundHalfToEven(is_half, true);
+    }
+
+    if (IsSign() == ss2.IsSign())
+        ClearInfoBit(TTMATH_BIG_SIGN);
+    else
+        SetInfoBit(TTMATH_BIG_SIGN);
+
+    c += Standardizing();
+    return CheckCarry(c);
+}
+
+// Multiplies by a word, dropping (not rounding) the bits that fall off the end.
+template<uint exp, uint man>
+uint Big<exp, man>::MulUInt(uint ss2)
+{
+    if (IsNan())
+        return 1;
+    if (IsZero())
+        return 0;
+    if (ss2 == 0) {
+        SetZero();
+        return 0;
+    }
+
+    uint p[man + 1];
+    p[man] = kernel::mul_1(p, mantissa.table, man, ss2);
+    uint c = 0;
+    if (p[man] != 0) {
+        // Shift right by the bit length of the top word, so that it fits again.
+        uint moved = words::bits_per_word - words::clz(p[man]);
+        if (moved == words::bits_per_word)
+            words::copy(p, p + 1, man);
+        else
+            words::shr_bits(p, p, man + 1, static_cast<unsigned>(moved));
+        c += exponent.AddInt(moved);
+    }
+    words::copy(mantissa.table, p, man);
+
+    c += Standardizing();
+    return CheckCarry(c);
+}
+
+template<uint exp, uint man>
+uint Big<exp, man>::MulInt(sint ss2)
+{
+    if (IsNan())
+        return 1;
+    if (ss2 == 0) {
+        SetZero();
+        return 0;
+    }
+    if (IsZero())
+        return 0;
+
+    if (IsSign() != (ss2 < 0))
+        SetSign();
+    else
+        Abs();
+
+    uint magnitude = ss2 < 0 ? uint(0) - static_cast<uint>(ss2) : static_cast<uint>(ss2);
+    return MulUInt(magnitude);
+}
+
+// Remainder with the sign of the dividend: this = this - ss2 * trunc(this / ss2), each
+// step rounded as the basic operations round.
+template<uint exp, uint man>
+uint Big<exp, man>::Mod(const Big & ss2_)
+{
+    if (this == &ss2_) {
+        Big copy(ss2_);
+        return Mod(copy);
+    }
+    const Big & ss2 = ss2_;
+
+    if (IsNan() || ss2.IsNan())
+        return CheckCarry(1);
+    if (ss2.IsZero()) {
+        SetNan();
+        return 2;
+    }
+
+    uint c = 0;
+    if (!SmallerWithoutSignThan(ss2)) {
+        Big temp(*this);
+        c = temp.Div(ss2);
+        temp.SkipFraction();
+        c += temp.Mul(ss2);
+        c += Sub(temp);
+        if (!SmallerWithoutSignThan(ss2))
+            c += 1;
+    }
+    return CheckCarry(c);
+}
+
+} // namespace ttmath
+
+#endif

@@ -1,0 +1,60 @@
+// Selects the word kernels of the back end this build uses: `ttmath::kernel` names
+// either the x86-64 assembly kernels or the portable ones. Both offer the same
+// functions with the same results:
+//   mul_ww, div_ww          one word times one word, two words divided by one
+//   add_n, sub_n            carry chains over n words
+//   mul_1, addmul_1, submul_1   n words times one word (stored, added, subtracted)
+//   lib_type_str, lib_type  the back end's name and code
+#ifndef TTMATH_KERNELS_H
+#define TTMATH_KERNELS_H
+
+#include "types.h"
+
+#include <cstddef>
+#include "kernels_portable.h"
+
+#ifdef TTMATH_ASM_X86_64
+#include "kernels_x86_64.h"
+namespace ttmath {
+namespace kernel = x86_64_kernels;
+}
+#else
+namespace ttmath {
+namespace kernel = portable_kernels;
+}
+#endif
+
+namespace ttmath {
+namespace fixed {
+
+// Carry chains over a size known at compile time. One- and two-word numbers (the
+// exponents) use plain C++, which the compiler keeps in registers; four words (the
+// 256-bit mantissa) have unrolled kernels.
+template<std::size_t n>
+inline uint add(uint * r, const uint * a, const uint * b, uint c)
+{
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (n == 4)
+        return x86_64_kernels::add_4(r, a, b, c);
+    if constexpr (n <= 2)
+        return portable_kernels::add_n(r, a, b, n, c);
+#endif
+    return kernel::add_n(r, a, b, n, c);
+}
+
+template<std::size_t n>
+inline uint sub(uint * r, const uint * a, const uint * b, uint c)
+{
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (n == 4)
+        return x86_64_kernels::sub_4(r, a, b, c);
+    if constexpr (n <= 2)
+        return portable_kernels::sub_n(r, a, b, n, c);
+#endif
+    return kernel::sub_n(r, a, b, n, c);
+}
+
+} // namespace fixed
+} // namespace ttmath
+
+#endif

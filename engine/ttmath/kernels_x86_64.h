@@ -1,0 +1,199 @@
+// Word kernels for x86-64 in GCC/Clang inline assembly: the carry chains and the
+// multiply-accumulate loops that every mantissa operation runs through. Results are
+// identical to the portable kernels.
+#ifndef TTMATH_KERNELS_X86_64_H
+#define TTMATH_KERNELS_X86_64_H
+
+#include <cstddef>
+#include "types.h"
+
+namespace ttmath {
+namespace x86_64_kernels {
+
+// hi:lo = a * b
+inline void mul_ww(uint a, uint b, uint & hi, uint & lo)
+{
+    __asm__("mulq %[b]" : "=a"(lo), "=d"(hi) : "a"(a), [b] "rm"(b) : "cc");
+}
+
+// Quotient of hi:lo by d, which must be greater than hi; the remainder goes to rem.
+inline uint div_ww(uint hi, uint lo, uint d, uint & rem)
+{
+    uint q;
+    __asm__("divq %[d]" : "=a"(q), "=d"(rem) : "a"(lo), "d"(hi), [d] "rm"(d) : "cc");
+    return q;
+}
+
+// r = a + b + c over n words (c is 0 or 1); returns the carry out. r may alias a or b.
+inline uint add_n(uint * r, const uint * a, const uint * b, std::size_t n, uint c)
+{
+    if (n == 0)
+        return c;
+    std::size_t i = 0;
+    uint t;
+    __asm__ __volatile__(
+        "negq %[c]\n\t"                      // CF = (c != 0)
+        "1:\n\t"
+        "movq (%[a],%[i],8), %[t]\n\t"
+        "adcq (%[b],%[i],8), %[t]\n\t"
+        "movq %[t], (%[r],%[i],8)\n\t"
+        "leaq 1(%[i]), %[i]\n\t"             // lea and dec keep CF
+        "decq %[n]\n\t"
+        "jnz 1b\n\t"
+        "sbbq %[c], %[c]\n\t"
+        "negq %[c]\n\t"
+        : [c] "+&r"(c), [i] "+&r"(i), [n] "+&r"(n), [t] "=&r"(t)
+        : [a] "r"(a), [b] "r"(b), [r] "r"(r)
+        : "cc", "memory");
+    return c;
+}
+
+// r = a - b - c over n words (c is 0 or 1); returns the borrow out. r may alias a or b.
+inline uint sub_n(uint * r, const uint * a, const uint * b, std::size_t n, uint c)
+{
+    if (n == 0)
+        return c;
+    std::size_t i = 0;
+    uint t;
+    __asm__ __volatile__(
+        "negq %[c]\n\t"
+        "1:\n\t"
+        "movq (%[a],%[i],8), %[t]\n\t"
+        "sbbq (%[b],%[i],8), %[t]\n\t"
+        "movq %[t], (%[r],%[i],8)\n\t"
+        "leaq 1(%[i]), %[i]\n\t"
+        "decq %[n]\n\t"
+        "jnz 1b\n\t"
+        "sbbq %[c], %[c]\n\t"
+        "negq %[c]\n\t"
+        : [c] "+&r"(c), [i] "+&r"(i), [n] "+&r"(n), [t] "=&r"(t)
+        : [a] "r"(a), [b] "r"(b), [r] "r"(r)
+        : "cc", "memory");
+    return c;
+}
+
+// r = a * b over n words; returns the high word. r may alias a.
+inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    uint carry = 0;
+    if (n == 0)
+        return carry;
+    std::size_t i = 0;
+    uint lo, hi;
+    __asm__ __volatile__(
+        "1:\n\t"
+        "movq (%[a],%[i],8), %%rax\n\t"
+        "mulq %[b]\n\t"
+        "addq %[carry], %%rax\n\t"
+        "adcq $0, %%rdx\n\t"
+        "movq %%rax, (%[r],%[i],8)\n\t"
+        "movq %%rdx, %[carry]\n\t"
+        "incq %[i]\n\t"
+        "cmpq %[n], %[i]\n\t"
+        "jb 1b\n\t"
+        : [carry] "+&r"(carry), [i] "+&r"(i), "=&a"(lo), "=&d"(hi)
+        : [a] "r"(a), [b] "r"(b), [r] "r"(r), [n] "r"(n)
+        : "cc", "memory");
+    return carry;
+}
+
+// r += a * b over n words; returns the word carried out of the top.
+inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    uint carry = 0;
+    if (n == 0)
+        return carry;
+    std::size_t i = 0;
+    uint lo, hi;
+    __asm__ __volatile__(
+        "1:\n\t"
+        "movq (%[a],%[i],8), %%rax\n\t"
+        "mulq %[b]\n\t"
+        "addq %[carry], %%rax\n\t"
+        "adcq $0, %%rdx\n\t"
+        "addq %%rax, (%[r],%[i],8)\n\t"
+        "adcq $0, %%rdx\n\t"
+        "movq %%rdx, %[carry]\n\t"
+        "incq %[i]\n\t"
+        "cmpq %[n], %[i]\n\t"
+        "jb 1b\n\t"
+        : [carry] "+&r"(carry), [i] "+&r"(i), "=&a"(lo), "=&d"(hi)
+        : [a] "r"(a), [b] "r"(b), [r] "r"(r), [n] "r"(n)
+        : "cc", "memory");
+    return carry;
+}
+
+// r -= a * b over n words; returns the word borrowed from above the top.
+inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    uint carry = 0;
+    if (n == 0)
+        return carry;
+    std::size_t i = 0;
+    uint lo, hi;
+    __asm__ __volatile__(
+        "1:\n\t"
+        "movq (%[a],%[i],8), %%rax\n\t"
+        "mulq %[b]\n\t"
+        "addq %[carry], %%rax\n\t"
+        "adcq $0, %%rdx\n\t"
+        "subq %%rax, (%[r],%[i],8)\n\t"
+        "adcq $0, %%rdx\n\t"
+        "movq %%rdx, %[carry]\n\t"
+        "incq %[i]\n\t"
+        "cmpq %[n], %[i]\n\t"
+        "jb 1b\n\t"
+        : [carry] "+&r"(carry), [i] "+&r"(i), "=&a"(lo), "=&d"(hi)
+        : [a] "r"(a), [b] "r"(b), [r] "r"(r), [n] "r"(n)
+        : "cc", "memory");
+    return carry;
+}
+
+// Four-word carry chains, unrolled: the mantissa width of the 256-bit type.
+inline uint add_4(uint * r, const uint * a, const uint * b, uint c)
+{
+    uint r0 = a[0], r1 = a[1], r2 = a[2], r3 = a[3];
+    __asm__("negq %[c]\n\t"
+            "adcq %[b0], %[r0]\n\t"
+            "adcq %[b1], %[r1]\n\t"
+            "adcq %[b2], %[r2]\n\t"
+            "adcq %[b3], %[r3]\n\t"
+            "sbbq %[c], %[c]\n\t"
+            "negq %[c]\n\t"
+            : [r0] "+&r"(r0), [r1] "+&r"(r1), [r2] "+&r"(r2), [r3] "+&r"(r3), [c] "+&r"(c)
+            : [b0] "rm"(b[0]), [b1] "rm"(b[1]), [b2] "rm"(b[2]), [b3] "rm"(b[3])
+            : "cc");
+    r[0] = r0;
+    r[1] = r1;
+    r[2] = r2;
+    r[3] = r3;
+    return c;
+}
+
+inline uint sub_4(uint * r, const uint * a, const uint * b, uint c)
+{
+    uint r0 = a[0], r1 = a[1], r2 = a[2], r3 = a[3];
+    __asm__("negq %[c]\n\t"
+            "sbbq %[b0], %[r0]\n\t"
+            "sbbq %[b1], %[r1]\n\t"
+            "sbbq %[b2], %[r2]\n\t"
+            "sbbq %[b3], %[r3]\n\t"
+            "sbbq %[c], %[c]\n\t"
+            "negq %[c]\n\t"
+            : [r0] "+&r"(r0), [r1] "+&r"(r1), [r2] "+&r"(r2), [r3] "+&r"(r3), [c] "+&r"(c)
+            : [b0] "rm"(b[0]), [b1] "rm"(b[1]), [b2] "rm"(b[2]), [b3] "rm"(b[3])
+            : "cc");
+    r[0] = r0;
+    r[1] = r1;
+    r[2] = r2;
+    r[3] = r3;
+    return c;
+}
+
+inline const char * lib_type_str() { return "asm_gcc_64"; }
+inline LibTypeCode lib_type() { return asm_gcc_64; }
+
+} // namespace x86_64_kernels
+} // namespace ttmath
+
+#endif

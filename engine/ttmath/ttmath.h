@@ -1,0 +1,15 @@
+// The numeric core: arbitrary-precision binary floating-point numbers Big<exp, man>,
+// with the integer types UInt and Int they are built from. Header-only; it needs
+// nothing but the C++ standard library.
+#ifndef TTMATH_TTMATH_H
+#define TTMATH_TTMATH_H
+
+#include "types.h"
+#include "conv.h"
+#include "uint.h"
+#include "int.h"
+#include "big.h"
+#include "basic_functions.h"
+#include "angles.h"
+
+#endif

@@ -1,0 +1,14 @@
+#!/bin/sh
+# Builds and runs every test in three configurations: g++ optimised, clang++ optimised,
+# and g++ with AddressSanitizer and UndefinedBehaviorSanitizer. Each configuration runs
+# the numeric core's tests with both the default and the portable back end.
+set -eu
+cd "$(dirname "$0")/.."
+sh scripts/deps.sh
+jobs=$(nproc)
+for preset in release clang sanitize; do
+    echo "=== $preset ==="
+    cmake --preset "$preset"
+    cmake --build --preset "$preset" -j "$jobs"
+    ctest --preset "$preset" -j "$jobs"
+done
