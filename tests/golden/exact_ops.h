@@ -1,6 +1,6 @@
 // Handlers for the exact operations: each runs one vector line through the numeric core
-// and formats what it produced in the vector's own tokens, to be compared field for
-// field with the expected outputs.
+// and formats what it produced in the vector's own tokens; the line passes when every
+// field equals the expected output.
 #ifndef GOLDEN_EXACT_OPS_H
 #define GOLDEN_EXACT_OPS_H
 
@@ -8,15 +8,21 @@
 #include <string>
 #include <vector>
 
+#include "outcome.h"
 #include "vector_line.h"
 
 namespace golden {
 
-typedef std::vector<std::string> Outputs;
-
 template<class Big>
 struct ExactOps {
-    typedef Outputs (*Handler)(const Line &);
+    typedef Outputs (*Compute)(const Line &);
+
+    // Runs the line and compares field for field.
+    template<Compute compute>
+    static Outcome Exact(const Line & l)
+    {
+        return CompareOutputs(l, compute(l));
+    }
 
     static Big In(const Line & l, std::size_t i)
     {
@@ -174,53 +180,53 @@ struct ExactOps {
         return {FormatValue(x)};
     }
 
-    static const std::map<std::string, Handler> & Table()
+    static const HandlerMap & Table()
     {
         using namespace ttmath;
-        static const std::map<std::string, Handler> table = {
-            {"add", &Add},
-            {"sub", &Rounded<&Big::Sub>},
-            {"mul", &Rounded<&Big::Mul>},
-            {"div", &Rounded<&Big::Div>},
-            {"mulint", &MulInt},
-            {"muluint", &MulUInt},
-            {"mod", &Mod},
-            {"round", &Round},
-            {"skipfraction", &InPlace<&Big::SkipFraction>},
-            {"remainfraction", &InPlace<&Big::RemainFraction>},
-            {"changesign", &InPlace<&Big::ChangeSign>},
-            {"abs", &InPlace<&Big::Abs>},
-            {"sgn", &InPlace<&Big::Sgn>},
-            {"bitand", &ByValue<&Big::BitAnd>},
-            {"bitor", &ByValue<&Big::BitOr>},
-            {"bitxor", &ByValue<&Big::BitXor>},
-            {"cmp", &Compare},
-            {"isinteger", &IsInteger},
-            {"fromint", &FromInt},
-            {"fromuint", &FromUInt},
-            {"fromdouble", &FromDouble},
-            {"toint", &ToInt},
-            {"touint", &ToUInt},
-            {"todouble", &ToDouble},
-            {"degtodeg", &AngleDms<&DegToDeg<Big>>},
-            {"degtorad", &Angle1or3<&DegToRad<Big>, &DegToRad<Big>>},
-            {"degtograd", &Angle1or3<&DegToGrad<Big>, &DegToGrad<Big>>},
-            {"gradtodeg", &Angle<&GradToDeg<Big>>},
-            {"gradtorad", &Angle<&GradToRad<Big>>},
-            {"radtograd", &Angle<&RadToGrad<Big>>},
-            {"radtodeg", &Angle<&RadToDeg<Big>>},
-            {"setpi", &Setter<&Big::SetPi>},
-            {"set05pi", &Setter<&Big::Set05Pi>},
-            {"set2pi", &Setter<&Big::Set2Pi>},
-            {"sete", &Setter<&Big::SetE>},
-            {"setln2", &Setter<&Big::SetLn2>},
-            {"setln10", &Setter<&Big::SetLn10>},
-            {"setmin", &Setter<&Big::SetMin>},
-            {"setmax", &Setter<&Big::SetMax>},
-            {"setzero", &Setter<&Big::SetZero>},
-            {"setone", &Setter<&Big::SetOne>},
-            {"setnan", &Setter<&Big::SetNan>},
-            {"set05", &Setter<&Big::Set05>},
+        static const HandlerMap table = {
+            {"add", &Exact<&Add>},
+            {"sub", &Exact<&Rounded<&Big::Sub>>},
+            {"mul", &Exact<&Rounded<&Big::Mul>>},
+            {"div", &Exact<&Rounded<&Big::Div>>},
+            {"mulint", &Exact<&MulInt>},
+            {"muluint", &Exact<&MulUInt>},
+            {"mod", &Exact<&Mod>},
+            {"round", &Exact<&Round>},
+            {"skipfraction", &Exact<&InPlace<&Big::SkipFraction>>},
+            {"remainfraction", &Exact<&InPlace<&Big::RemainFraction>>},
+            {"changesign", &Exact<&InPlace<&Big::ChangeSign>>},
+            {"abs", &Exact<&InPlace<&Big::Abs>>},
+            {"sgn", &Exact<&InPlace<&Big::Sgn>>},
+            {"bitand", &Exact<&ByValue<&Big::BitAnd>>},
+            {"bitor", &Exact<&ByValue<&Big::BitOr>>},
+            {"bitxor", &Exact<&ByValue<&Big::BitXor>>},
+            {"cmp", &Exact<&Compare>},
+            {"isinteger", &Exact<&IsInteger>},
+            {"fromint", &Exact<&FromInt>},
+            {"fromuint", &Exact<&FromUInt>},
+            {"fromdouble", &Exact<&FromDouble>},
+            {"toint", &Exact<&ToInt>},
+            {"touint", &Exact<&ToUInt>},
+            {"todouble", &Exact<&ToDouble>},
+            {"degtodeg", &Exact<&AngleDms<&DegToDeg<Big>>>},
+            {"degtorad", &Exact<&Angle1or3<&DegToRad<Big>, &DegToRad<Big>>>},
+            {"degtograd", &Exact<&Angle1or3<&DegToGrad<Big>, &DegToGrad<Big>>>},
+            {"gradtodeg", &Exact<&Angle<&GradToDeg<Big>>>},
+            {"gradtorad", &Exact<&Angle<&GradToRad<Big>>>},
+            {"radtograd", &Exact<&Angle<&RadToGrad<Big>>>},
+            {"radtodeg", &Exact<&Angle<&RadToDeg<Big>>>},
+            {"setpi", &Exact<&Setter<&Big::SetPi>>},
+            {"set05pi", &Exact<&Setter<&Big::Set05Pi>>},
+            {"set2pi", &Exact<&Setter<&Big::Set2Pi>>},
+            {"sete", &Exact<&Setter<&Big::SetE>>},
+            {"setln2", &Exact<&Setter<&Big::SetLn2>>},
+            {"setln10", &Exact<&Setter<&Big::SetLn10>>},
+            {"setmin", &Exact<&Setter<&Big::SetMin>>},
+            {"setmax", &Exact<&Setter<&Big::SetMax>>},
+            {"setzero", &Exact<&Setter<&Big::SetZero>>},
+            {"setone", &Exact<&Setter<&Big::SetOne>>},
+            {"setnan", &Exact<&Setter<&Big::SetNan>>},
+            {"set05", &Exact<&Setter<&Big::Set05>>},
         };
         return table;
     }
