@@ -24,6 +24,14 @@ public:
     UInt<man> mantissa;
     unsigned char info;
 
+private:
+    // Fills the value to a whole number of words, so that copies move whole words:
+    // a copy of only the 41 used bytes of a 256-bit value is done with overlapping
+    // moves, which defeats store-to-load forwarding when the copy is read right away.
+    unsigned char padding_[7] = {};
+
+public:
+
     // Mantissa width in bits.
     static constexpr uint mantissa_bits = man * 64;
 
@@ -185,7 +193,11 @@ public:
         }
         if (CorrectZero())
             return 0;
-        uint comp = mantissa.CompensationToLeft();
+        uint comp = words::leading_zeros_fixed<man>(mantissa.table);
+        if (comp < words::bits_per_word)
+            words::shl_bits(mantissa.table, mantissa.table, man, static_cast<unsigned>(comp));
+        else
+            words::shl_fixed<man>(mantissa.table, comp);
         return exponent.SubInt(comp);
     }
 
@@ -449,6 +461,8 @@ private:
     int CompareExponent(sint value) const { return exponent.Compare(Int<exp>(value)); }
 
     uint ToUIntCore(uint & result) const;
+    bool AddNormalised(const Big & ss2, bool round, bool adding, uint & rc);
+    uint AddGeneral(Big ss2, bool round, bool adding);
 
     template<uint e2, uint m2> friend class Big;
 };

@@ -9,68 +9,199 @@
 #define TTMATH_BIG_ADD_H
 
 namespace ttmath {
+namespace detail {
+
+// m >>= d for 0 < d < 64*n, reporting the highest bit shifted out (`last`) and whether
+// all the other bits shifted out were zero (`rest_zero`).
+template<std::size_t n>
+inline void ShiftRightKeepingRoundBits(uint * m, uint d, bool & last, bool & rest_zero)
+{
+    if (d < words::bits_per_word) {
+        // the usual case: operands of similar size
+        const unsigned b = static_cast<unsigned>(d);
+        const uint lost = m[0] << (words::bits_per_word - b);
+        last = (lost >> (words::bits_per_word - 1)) != 0;
+        rest_zero = (lost << 1) == 0;
+        words::shr_bits(m, m, n, b);
+        return;
+    }
+    // The bits shifted out, read as the n-word number m << (64n - d): its top bit is
+    // `last`, the rest must be zero for `rest_zero`.
+    uint lost[n];
+    words::copy(lost, m, n);
+    words::shl_fixed<n>(lost, n * words::bits_per_word - d);
+    last = (lost[n - 1] >> (words::bits_per_word - 1)) != 0;
+    rest_zero = (lost[n - 1] << 1) == 0 && words::is_zero(lost, n - 1);
+    words::shr_fixed<n>(m, d);
+}
+
+} // namespace detail
+
+// The common case of Add for a one-word exponent: two normalised non-zero values (no
+// flag but the sign) whose exponents differ by less than a word, and a result that
+// needs at most a word of normalising shift. It computes exactly what the general
+// algorithm computes for such operands, in registers and mostly without branches.
+// Returns false, changing nothing, for any other operands.
+template<uint exp, uint man>
+inline bool Big<exp, man>::AddNormalised(const Big & ss2, bool round, bool adding, uint & rc)
+{
+    if constexpr (exp != 1) {
+        (void)ss2, (void)round, (void)adding, (void)rc;
+        return false;
+    } else {
+        const unsigned bits = words::bits_per_word;
+        const uint top = TTMATH_UINT_HIGHEST_BIT;
+        const unsigned char info1 = info;
+        const unsigned char info2 = static_cast<unsigned char>(adding ? ss2.info : ss2.info ^ TTMATH_BIG_SIGN);
+        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(mantissa.table[man - 1] & ss2.mantissa.table[man - 1] & top))
+            return false;
+
+        const sint e1 = static_cast<sint>(exponent.table[0]), e2 = static_cast<sint>(ss2.exponent.table[0]);
+        bool swapped = e1 < e2;
+        if (e1 == e2)
+            swapped = words::compare(mantissa.table, ss2.mantissa.table, man) < 0;
+        const uint * L = swapped ? ss2.mantissa.table : mantissa.table;
+        const uint * S = swapped ? mantissa.table : ss2.mantissa.table;
+        const sint large_exponent = swapped ? e2 : e1;
+        // The true difference lies in [0, 2^64): as a word it is exact.
+        const uint d = static_cast<uint>(large_exponent) - static_cast<uint>(swapped ? e1 : e2);
+        if (d >= bits)
+            return false;
+        const unsigned k = static_cast<unsigned>(d);
+
+        // s = S >> d; (x << 1) << (63 - d) is x << (64 - d), and 0 for d == 0
+        uint s[man], r[man];
+        for (std::size_t i = 0; i + 1 < man; ++i)
+            s[i] = (S[i] >> k) | ((S[i + 1] << 1) << (bits - 1 - k));
+        s[man - 1] = S[man - 1] >> k;
+        const uint lost = (S[0] << (bits - 1 - k)) << 1;
+        bool last = (lost >> (bits - 1)) != 0;
+        bool rest_zero = (lost << 1) == 0;
+
+        uint e = static_cast<uint>(large_exponent);
+        const uint max_exponent = top - 1;
+        uint c = 0;
+        if (((info1 ^ info2) & TTMATH_BIG_SIGN) == 0) {
+            if (fixed::add<man>(r, L, s, 0)) {
+                rest_zero = rest_zero && !last;
+                last = (r[0] & 1) != 0;
+                for (std::size_t i = 0; i + 1 < man; ++i)
+                    r[i] = (r[i] >> 1) | (r[i + 1] << (bits - 1));
+                r[man - 1] = (r[man - 1] >> 1) | top;
+                c += e == max_exponent;
+                ++e;
+            }
+            if (round && last && (!rest_zero || (r[0] & 1)) && UInt<man>::AddOneTo(r)) {
+                r[man - 1] = top;
+                c += e == max_exponent;
+                ++e;
+            }
+        } else {
+            fixed::sub<man>(r, L, s, 0);
+            if (round && last && (!rest_zero || (r[0] & 1)))
+                UInt<man>::SubOneFrom(r);
+            if (!(r[man - 1] & top)) {
+                if (r[man - 1] == 0)
+                    return false; // cancellation of a word or more
+                const unsigned z = words::clz(r[man - 1]);
+                for (std::size_t i = man - 1; i > 0; --i)
+                    r[i] = (r[i] << z) | (r[i - 1] >> (bits - z));
+                r[0] <<= z;
+                const uint min_exponent = top;
+                c += static_cast<sint>(e) < static_cast<sint>(min_exponent + z);
+                e -= z;
+            }
+        }
+
+        exponent.table[0] = e;
+        words::copy(mantissa.table, r, man);
+        info = static_cast<unsigned char>(((swapped ? info2 : info1) & TTMATH_BIG_SIGN) | (c ? TTMATH_BIG_NAN : 0));
+        rc = c ? 1 : 0;
+        return true;
+    }
+}
 
 template<uint exp, uint man>
-uint Big<exp, man>::Add(Big ss2, bool round, bool adding)
+inline uint Big<exp, man>::Add(Big ss2, bool round, bool adding)
 {
-    if (IsNan() || ss2.IsNan())
+    uint rc;
+    if (AddNormalised(ss2, round, adding, rc))
+        return rc;
+    return AddGeneral(ss2, round, adding);
+}
+
+// The algorithm for every input.
+template<uint exp, uint man>
+TTMATH_NOINLINE uint Big<exp, man>::AddGeneral(Big ss2, bool round, bool adding)
+{
+    if ((info | ss2.info) & TTMATH_BIG_NAN)
         return CheckCarry(1);
 
     if (!adding)
         ss2.ChangeSign();
 
-    if (SmallerWithoutSignThan(ss2))
-        Swap(ss2);
+    // The result starts from the operand of larger magnitude (`large`); `small` is
+    // aligned to it. Working through references avoids swapping whole values.
+    const bool swapped = SmallerWithoutSignThan(ss2);
+    const Big & large = swapped ? ss2 : *this;
+    const Big & small = swapped ? *this : ss2;
 
-    if (ss2.IsZero())
+    if (small.IsZero()) {
+        if (swapped)
+            *this = ss2;
         return 0;
+    }
 
     // The exponent difference. When it does not fit the exponent type the smaller
     // operand lies far below the last mantissa bit: the larger one is the result.
-    Int<exp> diff(exponent);
-    if (diff.Sub(ss2.exponent))
-        return 0;
+    Int<exp> diff(large.exponent);
     Int<exp> min_exponent;
     min_exponent.SetMin();
-    if (diff == min_exponent)
+    bool far = diff.Sub(small.exponent) != 0 || diff == min_exponent;
+    uint d = 0;
+    if (!far) {
+        diff.Abs();
+        d = diff.table[0];
+        // d > N: small does not reach even the rounding position.
+        far = !words::is_zero(diff.table + 1, exp - 1) || d > mantissa_bits;
+    }
+    if (far) {
+        if (swapped)
+            *this = ss2;
         return 0;
-    diff.Abs();
+    }
 
-    // d > N: ss2 does not reach even the rounding position.
-    uint d = diff.table[0];
-    if (!words::is_zero(diff.table + 1, exp - 1) || d > mantissa_bits)
-        return 0;
-
-    bool last = false;      // the highest bit shifted out of ss2
+    bool last = false;      // the highest bit shifted out of small
     bool rest_zero = false; // all lower bits shifted out were zero
     bool do_add = false;
-    bool up = IsSign() == ss2.IsSign();
+    const bool up = large.IsSign() == small.IsSign();
 
+    UInt<man> aligned(small.mantissa);
     if (d == mantissa_bits) {
-        last = ss2.mantissa.IsTheHighestBitSet();
-        rest_zero = ss2.mantissa.AreFirstBitsZero(mantissa_bits - 1);
+        last = aligned.IsTheHighestBitSet();
+        rest_zero = aligned.AreFirstBitsZero(mantissa_bits - 1);
     } else {
         rest_zero = true;
-        if (d > 0) {
-            last = ss2.mantissa.GetBit(d - 1) != 0;
-            if (d > 1)
-                rest_zero = ss2.mantissa.AreFirstBitsZero(d - 1);
-            ss2.mantissa.Rcr(d);
-        }
+        if (d > 0)
+            detail::ShiftRightKeepingRoundBits<man>(aligned.table, d, last, rest_zero);
         do_add = true;
     }
+
+    if (swapped)
+        *this = ss2;
 
     uint c = 0;
     if (do_add) {
         if (up) {
-            if (mantissa.Add(ss2.mantissa)) {
+            if (mantissa.Add(aligned)) {
                 rest_zero = rest_zero && !last;
                 last = mantissa.IsTheLowestBitSet();
-                mantissa.Rcr(1, 1);
+                words::shr_bits(mantissa.table, mantissa.table, man, 1);
+                mantissa.table[man - 1] |= TTMATH_UINT_HIGHEST_BIT;
                 c += exponent.AddOne();
             }
         } else {
-            mantissa.Sub(ss2.mantissa);
+            mantissa.Sub(aligned);
         }
     }
 

@@ -30,7 +30,7 @@ uint Big<exp, man>::Mul(const Big & ss2_, bool round)
 
     uint p[2 * man];
     product::full<man>(p, mantissa.table, ss2.mantissa.table);
-    uint shift = words::leading_zeros(p, 2 * man);
+    uint shift = words::leading_zeros_fixed<2 * man>(p);
     if (shift)
         words::shl(p, 2 * man, shift);
 
@@ -78,22 +78,27 @@ uint Big<exp, man>::Div(const Big & ss2_, bool round)
     // q = floor(mantissa * 2^N / ss2.mantissa), 2N bits. A zero divisor mantissa
     // without the zero flag leaves the dividend as it is.
     uint q[2 * man];
-    uint u[2 * man];
-    words::fill(u, man, 0);
-    words::copy(u + man, mantissa.table, man);
-    std::size_t vn = words::used_words(ss2.mantissa.table, man);
-    std::size_t un = words::used_words(u, 2 * man);
-    if (vn == 0) {
-        words::copy(q, u, 2 * man);
+    if (ss2.mantissa.IsTheHighestBitSet()) {
+        words::fill(q + man + 1, man - 1, 0);
+        quotient::shifted_by_normalized<man>(q, mantissa.table, ss2.mantissa.table);
     } else {
-        words::fill(q, 2 * man, 0);
-        if (un >= vn) {
-            uint scratch[3 * man + 1];
-            quotient::floor_quotient(q, u, un, ss2.mantissa.table, vn, scratch);
+        uint u[2 * man];
+        words::fill(u, man, 0);
+        words::copy(u + man, mantissa.table, man);
+        std::size_t vn = words::used_words(ss2.mantissa.table, man);
+        std::size_t un = words::used_words(u, 2 * man);
+        if (vn == 0) {
+            words::copy(q, u, 2 * man);
+        } else {
+            words::fill(q, 2 * man, 0);
+            if (un >= vn) {
+                uint scratch[3 * man + 1];
+                quotient::floor_quotient(q, u, un, ss2.mantissa.table, vn, scratch);
+            }
         }
     }
 
-    uint shift = words::leading_zeros(q, 2 * man);
+    uint shift = words::leading_zeros_fixed<2 * man>(q);
     if (shift)
         words::shl(q, 2 * man, shift);
 

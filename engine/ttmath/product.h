@@ -109,6 +109,12 @@ inline void karatsuba(uint * r, const uint * a, const uint * b, std::size_t n, u
 template<std::size_t n>
 inline void full(uint * r, const uint * a, const uint * b)
 {
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (n == 4) {
+        x86_64_kernels::mul_4x4(r, a, b);
+        return;
+    }
+#endif
     if (n <= column_max_words) {
         columns<n>(r, a, b);
     } else if (n < karatsuba_min_words) {

@@ -19,13 +19,12 @@ inline uint by_word(uint * q, const uint * u, std::size_t un, uint d)
     return rem;
 }
 
-// Core of algorithm D. u has un + 1 words (u[un] is the extra top word, at most v's top
-// word), v has vn >= 2 words with its top bit set, un >= vn. Writes the un - vn + 1
-// quotient words to q; u is left holding the remainder in its low vn words.
-inline void normalized(uint * q, uint * u, std::size_t un, const uint * v, std::size_t vn)
+// The steps of algorithm D that produce quotient words steps-1 down to 0. u has
+// steps + vn words, and u[j + 1 .. j + vn] < v before the step producing word j.
+inline void normalized_steps(uint * q, uint * u, std::size_t steps, const uint * v, std::size_t vn)
 {
     const uint v1 = v[vn - 1], v2 = v[vn - 2];
-    for (std::size_t j = un - vn + 1; j-- > 0;) {
+    for (std::size_t j = steps; j-- > 0;) {
         uint * uj = u + j;
         const uint top = uj[vn], next = uj[vn - 1];
         uint qhat, rhat;
@@ -59,6 +58,14 @@ inline void normalized(uint * q, uint * u, std::size_t un, const uint * v, std::
         }
         q[j] = qhat;
     }
+}
+
+// Core of algorithm D. u has un + 1 words (u[un] is the extra top word, at most v's top
+// word), v has vn >= 2 words with its top bit set, un >= vn. Writes the un - vn + 1
+// quotient words to q; u is left holding the remainder in its low vn words.
+inline void normalized(uint * q, uint * u, std::size_t un, const uint * v, std::size_t vn)
+{
+    normalized_steps(q, u, un - vn + 1, v, vn);
 }
 
 // Scratch words `floor_quotient` needs for sizes un, vn.
@@ -98,6 +105,24 @@ inline void floor_quotient(uint * q, const uint * u, std::size_t un, const uint 
         else
             words::copy(rem, un_, vn);
     }
+}
+
+// q[0 .. n] = floor(a * 2^(64n) / v) for n-word a and v with v's top bit set (the
+// quotient then has at most 64n + 1 bits). This is algorithm D for a dividend whose low
+// half is zero and a divisor that needs no normalising shift; the top quotient word,
+// 0 or 1, comes from a comparison instead of a division step.
+template<std::size_t n>
+inline void shifted_by_normalized(uint * q, const uint * a, const uint * v)
+{
+    static_assert(n >= 2, "two divisor words are needed for the estimate");
+    uint u[2 * n + 1];
+    words::fill(u, n, 0);
+    words::copy(u + n, a, n);
+    u[2 * n] = 0;
+    q[n] = words::compare(a, v, n) >= 0 ? 1 : 0;
+    if (q[n])
+        kernel::sub_n(u + n, u + n, v, n, 0);
+    normalized_steps(q, u, n, v, n);
 }
 
 } // namespace quotient

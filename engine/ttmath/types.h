@@ -22,6 +22,13 @@
 #define TTMATH_UINT_MAX_VALUE 0xffffffffffffffffull
 #define TTMATH_BITS(min_bits) (((min_bits)-1) / TTMATH_BITS_PER_UINT + 1)
 
+// Keeps a rarely taken path out of the inlined common one.
+#if defined(__GNUC__) || defined(__clang__)
+#define TTMATH_NOINLINE __attribute__((noinline))
+#else
+#define TTMATH_NOINLINE
+#endif
+
 // Flag bits of Big::info.
 #define TTMATH_BIG_SIGN 128
 #define TTMATH_BIG_NAN 64

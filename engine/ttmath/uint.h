@@ -86,6 +86,22 @@ public:
     uint AddOne() { return AddInt(1); }
     uint SubOne() { return SubInt(1); }
 
+    // Adds or subtracts 1 on the words of a value of this size; returns the carry.
+    static uint AddOneTo(uint * t)
+    {
+        for (uint i = 0; i < value_size; ++i)
+            if (++t[i] != 0)
+                return 0;
+        return 1;
+    }
+    static uint SubOneFrom(uint * t)
+    {
+        for (uint i = 0; i < value_size; ++i)
+            if (t[i]-- != 0)
+                return 0;
+        return 1;
+    }
+
     // Shifts left by `bits`, filling with ones if c != 0; returns the last bit shifted out.
     uint Rcl(uint bits, uint c = 0)
     {

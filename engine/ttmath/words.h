@@ -179,6 +179,46 @@ inline void fill_high_bits(uint * a, std::size_t n, uint count)
         a[n - w - 1] |= ~(TTMATH_UINT_MAX_VALUE >> b);
 }
 
+// Shifts over a size known at compile time, unrolled; the word and bit parts of the
+// count are handled without branches. count < 64*n.
+template<std::size_t n>
+inline void shl_fixed(uint * a, uint count)
+{
+    const std::size_t w = static_cast<std::size_t>(count / bits_per_word);
+    const unsigned b = static_cast<unsigned>(count % bits_per_word);
+    uint t[n];
+    copy(t, a, n);
+    for (std::size_t i = n; i-- > 0;) {
+        uint hi = i >= w ? t[i - w] : 0;
+        uint lo = i >= w + 1 ? t[i - w - 1] : 0;
+        // (lo >> 1) >> (63 - b) is lo >> (64 - b), and 0 when b == 0
+        a[i] = (hi << b) | ((lo >> 1) >> (bits_per_word - 1 - b));
+    }
+}
+
+template<std::size_t n>
+inline void shr_fixed(uint * a, uint count)
+{
+    const std::size_t w = static_cast<std::size_t>(count / bits_per_word);
+    const unsigned b = static_cast<unsigned>(count % bits_per_word);
+    uint t[n];
+    copy(t, a, n);
+    for (std::size_t i = 0; i < n; ++i) {
+        uint lo = i + w < n ? t[i + w] : 0;
+        uint hi = i + w + 1 < n ? t[i + w + 1] : 0;
+        a[i] = (lo >> b) | ((hi << 1) << (bits_per_word - 1 - b));
+    }
+}
+
+// Leading zero bits of an n-word number (n known at compile time); 0 when it is zero.
+template<std::size_t n>
+inline uint leading_zeros_fixed(const uint * a)
+{
+    if (a[n - 1])
+        return clz(a[n - 1]);
+    return leading_zeros(a, n);
+}
+
 } // namespace words
 } // namespace ttmath
 

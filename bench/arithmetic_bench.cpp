@@ -1,0 +1,289 @@
+// The numeric core's basic arithmetic and double conversions against MPFR and Boost's
+// cpp_bin_float at 256 and 2048 bits, on the same random operands.
+#include <benchmark/benchmark.h>
+#include <boost/multiprecision/cpp_bin_float.hpp>
+#include <mpfr.h>
+
+#include <cstdint>
+#include <vector>
+
+#include <ttmath/ttmath.h>
+
+#include "comparison_report.h"
+
+namespace {
+
+using ttmath::uint;
+
+const std::size_t pool_size = 32; // operand pairs cycled through, so no branch is learnt
+const int exponent_spread = 8;    // operands lie in [2^-8, 2^8)
+
+struct Random {
+    std::uint64_t state = 0x9e3779b97f4a7c15ull;
+    std::uint64_t Next()
+    {
+        state ^= state << 13;
+        state ^= state >> 7;
+        state ^= state << 17;
+        return state;
+    }
+};
+
+// One random operand: normalised mantissa words and a binary exponent for the leading bit.
+struct Operand {
+    std::vector<uint> words; // least significant first
+    int exponent;
+    bool negative;
+};
+
+std::vector<Operand> MakeOperands(std::size_t count, std::size_t words, bool with_signs)
+{
+    Random rng;
+    std::vector<Operand> ops;
+    for (std::size_t i = 0; i < count; ++i) {
+        Operand o;
+        for (std::size_t w = 0; w < words; ++w)
+            o.words.push_back(rng.Next());
+        o.words.back() |= TTMATH_UINT_HIGHEST_BIT;
+        o.exponent = static_cast<int>(rng.Next() % (2 * exponent_spread)) - exponent_spread;
+        o.negative = with_signs && (rng.Next() & 1);
+        ops.push_back(o);
+    }
+    return ops;
+}
+
+template<class Big>
+Big ToOurs(const Operand & o)
+{
+    Big x;
+    x.info = o.negative ? TTMATH_BIG_SIGN : 0;
+    for (std::size_t w = 0; w < o.words.size(); ++w)
+        x.mantissa.table[w] = o.words[w];
+    x.exponent = ttmath::Int<sizeof(x.exponent.table) / sizeof(uint)>(
+        static_cast<ttmath::sint>(o.exponent) - static_cast<ttmath::sint>(Big::mantissa_bits) + 1);
+    return x;
+}
+
+void ToMpfr(const Operand & o, mpfr_t x)
+{
+    mpz_t z;
+    mpz_init(z);
+    mpz_import(z, o.words.size(), -1, sizeof(uint), 0, 0, o.words.data());
+    const long bits = static_cast<long>(o.words.size() * 64);
+    mpfr_set_z_2exp(x, z, o.exponent - bits + 1, MPFR_RNDN);
+    if (o.negative)
+        mpfr_neg(x, x, MPFR_RNDN);
+    mpz_clear(z);
+}
+
+template<class Float>
+Float ToBoost(const Operand & o)
+{
+    Float x = 0;
+    for (std::size_t w = 0; w < o.words.size(); ++w)
+        x += boost::multiprecision::ldexp(Float(o.words[w]), static_cast<int>(64 * w));
+    x = boost::multiprecision::ldexp(x, o.exponent - static_cast<int>(o.words.size() * 64) + 1);
+    return o.negative ? Float(-x) : x;
+}
+
+enum class Op { add, sub, mul, div };
+
+const char * OpName(Op op)
+{
+    switch (op) {
+    case Op::add: return "add";
+    case Op::sub: return "sub";
+    case Op::mul: return "mul";
+    default: return "div";
+    }
+}
+
+template<class Big>
+void RegisterOurs(Op op, const std::vector<Operand> & a, const std::vector<Operand> & b)
+{
+    std::vector<Big> x, y;
+    for (std::size_t i = 0; i < pool_size; ++i) {
+        x.push_back(ToOurs<Big>(a[i]));
+        y.push_back(ToOurs<Big>(b[i]));
+    }
+    benchmark::RegisterBenchmark(bench::Name(OpName(op), Big::mantissa_bits, bench::ours).c_str(),
+                                 [op, x, y](benchmark::State & state) {
+                                     std::size_t i = 0;
+                                     for (auto _ : state) {
+                                         Big r(x[i]);
+                                         switch (op) {
+                                         case Op::add: r.Add(y[i]); break;
+                                         case Op::sub: r.Sub(y[i]); break;
+                                         case Op::mul: r.Mul(y[i]); break;
+                                         case Op::div: r.Div(y[i]); break;
+                                         }
+                                         benchmark::DoNotOptimize(r);
+                                         i = (i + 1) % pool_size;
+                                     }
+                                 });
+}
+
+// MPFR values live as long as the process; the benchmarks refer to them.
+struct MpfrPool {
+    std::vector<mpfr_t> x, y;
+    mpfr_t r;
+    MpfrPool(unsigned bits, const std::vector<Operand> & a, const std::vector<Operand> & b)
+        : x(pool_size), y(pool_size)
+    {
+        for (std::size_t i = 0; i < pool_size; ++i) {
+            mpfr_init2(x[i], bits);
+            mpfr_init2(y[i], bits);
+            ToMpfr(a[i], x[i]);
+            ToMpfr(b[i], y[i]);
+        }
+        mpfr_init2(r, bits);
+    }
+};
+
+void RegisterMpfr(Op op, unsigned bits, const std::vector<Operand> & a, const std::vector<Operand> & b)
+{
+    MpfrPool * pool = new MpfrPool(bits, a, b);
+    benchmark::RegisterBenchmark(bench::Name(OpName(op), bits, "mpfr").c_str(), [op, pool](benchmark::State & state) {
+        std::size_t i = 0;
+        for (auto _ : state) {
+            switch (op) {
+            case Op::add: mpfr_add(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
+            case Op::sub: mpfr_sub(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
+            case Op::mul: mpfr_mul(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
+            case Op::div: mpfr_div(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
+            }
+            benchmark::DoNotOptimize(pool->r);
+            i = (i + 1) % pool_size;
+        }
+    });
+}
+
+template<class Float>
+void RegisterBoost(Op op, unsigned bits, const std::vector<Operand> & a, const std::vector<Operand> & b)
+{
+    std::vector<Float> x, y;
+    for (std::size_t i = 0; i < pool_size; ++i) {
+        x.push_back(ToBoost<Float>(a[i]));
+        y.push_back(ToBoost<Float>(b[i]));
+    }
+    benchmark::RegisterBenchmark(bench::Name(OpName(op), bits, "boost").c_str(), [op, x, y](benchmark::State & state) {
+        std::size_t i = 0;
+        Float r;
+        for (auto _ : state) {
+            switch (op) {
+            case Op::add: r = x[i] + y[i]; break;
+            case Op::sub: r = x[i] - y[i]; break;
+            case Op::mul: r = x[i] * y[i]; break;
+            case Op::div: r = x[i] / y[i]; break;
+            }
+            benchmark::DoNotOptimize(r);
+            i = (i + 1) % pool_size;
+        }
+    });
+}
+
+// Doubles spread over many binades, both signs.
+std::vector<double> MakeDoubles()
+{
+    Random rng;
+    std::vector<double> d;
+    for (std::size_t i = 0; i < pool_size; ++i) {
+        double v = static_cast<double>(rng.Next() >> 11) / static_cast<double>(1ull << 53);
+        v = std::ldexp(v + 0.5, static_cast<int>(rng.Next() % 200) - 100);
+        d.push_back((rng.Next() & 1) ? -v : v);
+    }
+    return d;
+}
+
+template<class Big, class Float>
+void RegisterDoubleConversions(unsigned bits)
+{
+    std::vector<double> d = MakeDoubles();
+    std::vector<Big> ours;
+    std::vector<Float> theirs;
+    MpfrPool * pool = new MpfrPool(bits, MakeOperands(pool_size, bits / 64, true), MakeOperands(pool_size, bits / 64, true));
+    for (std::size_t i = 0; i < pool_size; ++i) {
+        ours.push_back(Big(d[i]));
+        theirs.push_back(Float(d[i]));
+        mpfr_set_d(pool->x[i], d[i], MPFR_RNDN);
+    }
+    benchmark::RegisterBenchmark(bench::Name("fromdouble", bits, bench::ours).c_str(), [d](benchmark::State & state) {
+        std::size_t i = 0;
+        Big r;
+        for (auto _ : state) {
+            r.FromDouble(d[i]);
+            benchmark::DoNotOptimize(r);
+            i = (i + 1) % pool_size;
+        }
+    });
+    benchmark::RegisterBenchmark(bench::Name("fromdouble", bits, "mpfr").c_str(), [d, pool](benchmark::State & state) {
+        std::size_t i = 0;
+        for (auto _ : state) {
+            mpfr_set_d(pool->r, d[i], MPFR_RNDN);
+            benchmark::DoNotOptimize(pool->r);
+            i = (i + 1) % pool_size;
+        }
+    });
+    benchmark::RegisterBenchmark(bench::Name("fromdouble", bits, "boost").c_str(), [d](benchmark::State & state) {
+        std::size_t i = 0;
+        Float r;
+        for (auto _ : state) {
+            r = d[i];
+            benchmark::DoNotOptimize(r);
+            i = (i + 1) % pool_size;
+        }
+    });
+    benchmark::RegisterBenchmark(bench::Name("todouble", bits, bench::ours).c_str(), [ours](benchmark::State & state) {
+        std::size_t i = 0;
+        for (auto _ : state) {
+            double r = ours[i].ToDouble();
+            benchmark::DoNotOptimize(r);
+            i = (i + 1) % pool_size;
+        }
+    });
+    benchmark::RegisterBenchmark(bench::Name("todouble", bits, "mpfr").c_str(), [pool](benchmark::State & state) {
+        std::size_t i = 0;
+        for (auto _ : state) {
+            double r = mpfr_get_d(pool->x[i], MPFR_RNDZ);
+            benchmark::DoNotOptimize(r);
+            i = (i + 1) % pool_size;
+        }
+    });
+    benchmark::RegisterBenchmark(bench::Name("todouble", bits, "boost").c_str(), [theirs](benchmark::State & state) {
+        std::size_t i = 0;
+        for (auto _ : state) {
+            double r = theirs[i].template convert_to<double>();
+            benchmark::DoNotOptimize(r);
+            i = (i + 1) % pool_size;
+        }
+    });
+}
+
+template<class Big, class Float>
+void RegisterWidth()
+{
+    const unsigned bits = Big::mantissa_bits;
+    const std::size_t words = bits / 64;
+    // Positive operands: "add" adds and "sub" subtracts magnitudes.
+    std::vector<Operand> a = MakeOperands(pool_size, words, false);
+    std::vector<Operand> b = MakeOperands(pool_size, words, false);
+    for (Op op : {Op::add, Op::sub, Op::mul, Op::div}) {
+        RegisterOurs<Big>(op, a, b);
+        RegisterMpfr(op, bits, a, b);
+        RegisterBoost<Float>(op, bits, a, b);
+    }
+    RegisterDoubleConversions<Big, Float>(bits);
+}
+
+} // namespace
+
+int main(int argc, char ** argv)
+{
+    using boost::multiprecision::backends::cpp_bin_float;
+    using boost::multiprecision::backends::digit_base_2;
+    using boost::multiprecision::et_off;
+    using boost::multiprecision::number;
+    RegisterWidth<ttmath::Big<1, 4>, number<cpp_bin_float<256, digit_base_2>, et_off>>();
+    RegisterWidth<ttmath::Big<8, 32>, number<cpp_bin_float<2048, digit_base_2>, et_off>>();
+    return bench::RunAndCompare(argc, argv);
+}
