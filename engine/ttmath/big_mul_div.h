@@ -78,10 +78,15 @@ uint Big<exp, man>::Div(const Big & ss2_, bool round)
     // q = floor(mantissa * 2^N / ss2.mantissa), 2N bits. A zero divisor mantissa
     // without the zero flag leaves the dividend as it is.
     uint q[2 * man];
-    if (ss2.mantissa.IsTheHighestBitSet()) {
-        words::fill(q + man + 1, man - 1, 0);
-        quotient::shifted_by_normalized<man>(q, mantissa.table, ss2.mantissa.table);
-    } else {
+    bool done = false;
+    if constexpr (man >= 2) {
+        if (ss2.mantissa.IsTheHighestBitSet()) {
+            words::fill(q + man + 1, man - 1, 0);
+            quotient::shifted_by_normalized<man>(q, mantissa.table, ss2.mantissa.table);
+            done = true;
+        }
+    }
+    if (!done) {
         uint u[2 * man];
         words::fill(u, man, 0);
         words::copy(u + man, mantissa.table, man);

@@ -99,26 +99,12 @@ uint Big<exp, man>::PowUInt(Big pow)
         if (pow < one)
             break;
 
-        if (start == one) {
-            // From here every square is 1 again and every product multiplies by an
-            // exact 1, so the remaining rounds could only change the result through a
-            // carry of that multiplication. Do the next such multiplication, if any,
-            // and stop: a huge exponent must not mean a huge number of rounds.
-            Big probe(result);
-            if (probe.Mul(one) == 0)
-                break;
-            // Rounds with a positive exponent have a units bit of 0: skip them at once.
-            if (pow.CompareExponent(0) > 0)
-                pow.exponent.SetZero();
-            while (!pow.Mod2()) {
-                pow.exponent.SubOne();
-                if (pow < one)
-                    break;
-            }
-            if (!(pow < one))
-                c += result.Mul(start);
+        // A rounded square is exactly 1 only when the base was +-1 (the squares of the
+        // neighbours of 1 round away from it), so from here every square is 1 and the
+        // result is +-1, which multiplications by 1 leave as it is. Stopping now gives
+        // the same result, and a huge exponent cannot mean a huge number of rounds.
+        if (start == one)
             break;
-        }
         c += start.Mul(start);
     }
     *this = result;
