@@ -5,9 +5,14 @@
 
 #include "sdk/records.h"
 
-// The plugin's one export.
+// The plugin's one export, declared `extern "C" REAL_PLUGIN_EXPORT void REALPluginMain(REALresolver)`.
 extern "C" typedef void (*REALPluginMainProc)(REALresolver resolver);
 #define REAL_PLUGIN_MAIN_NAME "REALPluginMain"
+#if defined(_WIN32)
+#define REAL_PLUGIN_EXPORT __declspec(dllexport)
+#else
+#define REAL_PLUGIN_EXPORT __attribute__((visibility("default")))
+#endif
 
 // "RegisterPluginVersion", "REALGetRBVersion", "REALinRuntime"
 typedef void (*RegisterPluginVersionProc)(int version);

@@ -65,7 +65,7 @@ public:
             } else if (std::isdigit(static_cast<unsigned char>(c)) ||
                        (c == '.' && std::isdigit(static_cast<unsigned char>(Peek(1))))) {
                 Number();
-            } else if (c == '&' && (Peek(1) == 'h' || Peek(1) == 'H')) {
+            } else if (c == '&' && (Peek(1) == 'h' || Peek(1) == 'H' || Peek(1) == 'c' || Peek(1) == 'C')) {
                 Hex();
             } else if (c == '"') {
                 Quoted();
@@ -182,13 +182,15 @@ private:
     {
         start_ = Here();
         Advance();
+        bool color = Peek(0) == 'c' || Peek(0) == 'C';
         Advance();
         size_t begin = pos_;
         while (std::isxdigit(static_cast<unsigned char>(Peek(0))))
             Advance();
         if (pos_ == begin)
-            throw SourceError(start_, "&h must be followed by hexadecimal digits");
+            throw SourceError(start_, std::string(color ? "&c" : "&h") + " must be followed by hexadecimal digits");
         EmitInteger(std::string(text_.substr(begin, pos_ - begin)), kHexBase);
+        tokens_.back().isColor = color;
     }
 
     void EmitInteger(const std::string & digits, int base)

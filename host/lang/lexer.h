@@ -13,7 +13,7 @@ namespace hostsim {
 
 enum class TokenKind {
     Identifier,
-    Integer,   // `integer` holds the value; `isUnsigned` when it needs 64 unsigned bits
+    Integer,   // `integer` holds the value; `isUnsigned` when it needs 64 unsigned bits, `isColor` for &c
     Real,
     String,    // `text` holds the content with "" turned into "
     Symbol,    // `text` holds one of ( ) , . = <> < > <= >= + - * / \ ^
@@ -26,6 +26,7 @@ struct Token {
     std::string text;
     uint64_t integer = 0;
     bool isUnsigned = false;
+    bool isColor = false;   // written &cRRGGBB
     double real = 0;
     SourcePosition where;
 

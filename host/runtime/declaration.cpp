@@ -142,7 +142,10 @@ private:
             Next();
         }
         const Token & t = Current();
-        if (t.kind == TokenKind::Integer && !t.isUnsigned) {
+        if (t.kind == TokenKind::Integer && t.isColor && !negative) {
+            lit.kind = Literal::Kind::Color;
+            lit.unsignedInteger = t.integer;
+        } else if (t.kind == TokenKind::Integer && !t.isUnsigned) {
             lit.kind = Literal::Kind::Integer;
             lit.integer = static_cast<int64_t>(negative ? 0 - t.integer : t.integer);
         } else if (t.kind == TokenKind::Integer && !negative) {

@@ -39,6 +39,7 @@ Value Interpreter::EvalLiteral(const Literal & lit)
     case Literal::Kind::String:
         return Value::AdoptString(TypeKind::String, rt_.NewString(lit.text, kREALTextEncodingUTF8));
     case Literal::Kind::Nil: return Value::AdoptObject(NilType(), nullptr);
+    case Literal::Kind::Color: return Value::Unsigned(TypeKind::Color, lit.unsignedInteger);
     }
     return Value();
 }

@@ -159,6 +159,13 @@ std::optional<Value> Interpreter::ObjectOperator(const std::string & op, const V
 
 Value Interpreter::ApplyBinary(const std::string & op, const Value & leftIn, const Value & rightIn, SourcePosition where)
 {
+    if (op == "is") {
+        bool objects = (leftIn.kind() == TypeKind::Object || leftIn.kind() == TypeKind::Variant) &&
+                       (rightIn.kind() == TypeKind::Object || rightIn.kind() == TypeKind::Variant);
+        if (!objects)
+            throw ScriptError(where, "Is compares objects, found " + leftIn.type().Name() + " and " + rightIn.type().Name());
+        return Value::Boolean(leftIn.object() == rightIn.object());
+    }
     Value left = leftIn.kind() == TypeKind::Variant ? VariantContent(leftIn.object()) : leftIn;
     Value right = rightIn.kind() == TypeKind::Variant ? VariantContent(rightIn.object()) : rightIn;
     if (IsObject(left) || IsObject(right)) {

@@ -9,7 +9,7 @@ namespace {
 // Binary operators by precedence level, lowest first. "isa" is handled with comparisons.
 const char * const kOrOperators[] = {"or"};
 const char * const kAndOperators[] = {"and"};
-const char * const kComparisonOperators[] = {"=", "<>", "<", ">", "<=", ">="};
+const char * const kComparisonOperators[] = {"=", "<>", "<", ">", "<=", ">=", "is"};
 const char * const kAdditiveOperators[] = {"+", "-"};
 const char * const kMultiplicativeOperators[] = {"*", "/", "\\", "mod"};
 
@@ -638,7 +638,8 @@ private:
         SourcePosition where = t.where;
         if (t.kind == TokenKind::Integer) {
             ExprPtr e = Make(Expr::Kind::Literal, where);
-            e->literal.kind = t.isUnsigned ? Literal::Kind::UnsignedInteger : Literal::Kind::Integer;
+            e->literal.kind = t.isColor ? Literal::Kind::Color
+                            : t.isUnsigned ? Literal::Kind::UnsignedInteger : Literal::Kind::Integer;
             e->literal.integer = static_cast<int64_t>(t.integer);
             e->literal.unsignedInteger = t.integer;
             Next();
@@ -697,7 +698,7 @@ private:
     static bool IsReserved(const Token & t)
     {
         static const char * const kReserved[] = {"then", "else", "elseif", "end", "to", "step", "next", "wend",
-                                                 "and", "or", "not", "mod", "isa", "as", "catch", "finally"};
+                                                 "and", "or", "not", "mod", "is", "isa", "as", "catch", "finally"};
         for (const char * w : kReserved)
             if (t.IsWord(w))
                 return true;
