@@ -57,7 +57,7 @@ void Accounting::Born(void * p, ResourceKind kind, Destroy destroy)
     auto old = entries_.find(p);
     if (old != entries_.end()) // memory of a resource that left quarantine, reused
         entries_.erase(old);
-    entries_.emplace(p, Entry{kind, nextSerial_++, true, destroy, CurrentContext(), {}});
+    entries_.emplace(p, Entry{kind, nextSerial_++, true, destroy, CurrentContext(), {}, {}});
 }
 
 bool Accounting::CheckAlive(const void * p, ResourceKind kind, const char * entry)
@@ -66,13 +66,17 @@ bool Accounting::CheckAlive(const void * p, ResourceKind kind, const char * entr
     if (it == entries_.end() || it->second.kind != kind) {
         char buffer[64];
         std::snprintf(buffer, sizeof buffer, "%p", p);
-        Fault(std::string(entry) + " was given " + buffer + ", which is not a " + ResourceName(kind) +
-              " of this host, in " + CurrentContext());
+        std::string what = kind == ResourceKind::Object ? "an object" : std::string("a ") + ResourceName(kind);
+        Fault(std::string(entry) + " was given " + buffer + ", which is not " + what + " of this host, in " +
+              CurrentContext());
         return false;
     }
     if (!it->second.alive) {
-        Fault(std::string(entry) + " on " + Describe(p, it->second) + ", released already in " +
-              it->second.releasedIn + ", in " + CurrentContext());
+        const Entry & e = it->second;
+        std::string last = e.pluginReleasedIn.empty() || e.pluginReleasedIn == e.releasedIn
+                               ? "" : " (last released by plugin code in " + e.pluginReleasedIn + ")";
+        Fault(std::string(entry) + " on " + Describe(p, e) + ", released already in " + e.releasedIn + last +
+              ", in " + CurrentContext());
         return false;
     }
     return true;
@@ -93,6 +97,13 @@ void Accounting::Died(void * p)
         gone->second.destroy(oldest);
         entries_.erase(gone);
     }
+}
+
+void Accounting::NotePluginRelease(const void * p)
+{
+    auto it = entries_.find(p);
+    if (it != entries_.end() && it->second.alive)
+        it->second.pluginReleasedIn = CurrentContext();
 }
 
 void Accounting::Fault(const std::string & text)

@@ -28,6 +28,8 @@ public:
     bool CheckAlive(const void * p, ResourceKind kind, const char * entry);
     // The resource was released for good: keep its memory quarantined.
     void Died(void * p);
+    // Plugin code is dropping a reference to `p`: remembered to explain a later fault.
+    void NotePluginRelease(const void * p);
 
     void Fault(const std::string & text);
     const std::vector<std::string> & Faults() const { return faults_; }
@@ -57,6 +59,7 @@ private:
         Destroy destroy;
         std::string madeIn;
         std::string releasedIn;
+        std::string pluginReleasedIn;
     };
     std::string Describe(const void * p, const Entry & e) const;
 

@@ -75,13 +75,13 @@ Value Invoke(Runtime & rt, const MethodInfo & method, REALproc handler, REALobje
     if (assigned)
         natives.push_back(ToSlot(*assigned));
     NativeSlot result{};
-    uint64_t raisedBefore = rt.RaiseCount();
+    REALobject pendingBefore = rt.Pending();
     {
         Accounting::Scope scope(rt.accounting, method.QualifiedName());
         rt.native().Call(handler, SignatureOf(sig, withObject, assigned != nullptr), natives, result);
     }
     WriteBack(sig, args, byRef);
-    if (assigned || !sig.result || rt.RaiseCount() != raisedBefore)
+    if (assigned || !sig.result || rt.Pending() != pendingBefore)
         return Value();
     return FromSlot(*sig.result, result, true);
 }
@@ -176,12 +176,12 @@ Value GetProperty(Runtime & rt, const PropertyInfo & p, REALobject self)
         sig.parameters = {CType::Pointer, CType::Int64};
     }
     NativeSlot result{};
-    uint64_t raisedBefore = rt.RaiseCount();
+    REALobject pendingBefore = rt.Pending();
     {
         Accounting::Scope scope(rt.accounting, p.QualifiedName() + " getter");
         rt.native().Call(p.getter, sig, args, result);
     }
-    if (rt.RaiseCount() != raisedBefore)
+    if (rt.Pending() != pendingBefore)
         return Value();
     return FromSlot(p.type, result, true);
 }

@@ -165,7 +165,10 @@ void LockString(REALstring s)
 
 void UnlockString(REALstring s)
 {
-    GuardedVoid("REALUnlockString", [&](Runtime & rt) { rt.UnlockString(s, "REALUnlockString"); });
+    GuardedVoid("REALUnlockString", [&](Runtime & rt) {
+        rt.accounting.NotePluginRelease(s);
+        rt.UnlockString(s, "REALUnlockString");
+    });
 }
 
 std::string AsUtf8(REALstring s)
@@ -237,7 +240,10 @@ void LockObject(REALobject o)
 
 void UnlockObject(REALobject o)
 {
-    GuardedVoid("REALUnlockObject", [&](Runtime & rt) { rt.UnlockObject(o, "REALUnlockObject"); });
+    GuardedVoid("REALUnlockObject", [&](Runtime & rt) {
+        rt.accounting.NotePluginRelease(o);
+        rt.UnlockObject(o, "REALUnlockObject");
+    });
 }
 
 REALclassRef ObjectType(const char * name)
@@ -400,9 +406,9 @@ bool ReadProperty(Runtime & rt, REALobject o, const char * name, TypeKind wanted
     const PropertyInfo * p = o->cls->FindProperty(name, false);
     if (!p || !p->getter)
         return false;
-    uint64_t raisedBefore = rt.RaiseCount();
+    REALobject pendingBefore = rt.Pending();
     Value v = GetProperty(rt, *p, o);
-    if (rt.RaiseCount() != raisedBefore)
+    if (rt.Pending() != pendingBefore)
         return false;
     TypeRef target = TypeRef::Of(wanted);
     bool sameWidth = CTypeOf(p->type) == CTypeOf(target) && IsStringKind(p->type.kind) == IsStringKind(wanted) &&

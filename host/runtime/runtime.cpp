@@ -192,7 +192,6 @@ void Runtime::Raise(REALobject exception)
                          ", which is not a RuntimeException, in " + accounting.CurrentContext());
         return;
     }
-    ++raiseCount_;
     if (pending_) {
         Report(Diagnostic::Level::Warning, "a second exception (" + exception->cls->name +
                ") was raised while one was pending, in " + accounting.CurrentContext() + "; the first is kept");

@@ -78,7 +78,8 @@ public:
     bool HasPending() const { return pending_ != nullptr; }
     REALobject TakePending();         // +1 for the caller
     void RestorePending(REALobject owned); // puts back what TakePending gave
-    uint64_t RaiseCount() const { return raiseCount_; }
+    // The exception waiting now (borrowed), to tell whether a call raised one.
+    REALobject Pending() const { return pending_; }
 
     // Entries.
     void HideEntry(const std::string & name) { hidden_.insert(name); }
@@ -102,7 +103,6 @@ private:
     std::vector<const ClassInfo *> order_;
     std::map<std::string, ClassInfo *> byName_; // lower-case names
     REALobject pending_ = nullptr;
-    uint64_t raiseCount_ = 0;
     std::set<std::string> hidden_;
     std::vector<std::string> requested_;
     std::vector<Diagnostic> diagnostics_;

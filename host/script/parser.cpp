@@ -615,9 +615,8 @@ private:
         ExprPtr e = ParsePrimary();
         for (;;) {
             if (Current().IsSymbol(".")) {
-                SourcePosition where = Current().where;
                 Next();
-                ExprPtr m = Make(Expr::Kind::Member, where);
+                ExprPtr m = Make(Expr::Kind::Member, Current().where);
                 m->name = ExpectName("a member name");
                 m->target = std::move(e);
                 e = std::move(m);

@@ -99,10 +99,13 @@ RBInt64 VariantInt64(REALobject v)
     return out;
 }
 
+// -1 when the host lacks the entry.
 REALcurrency VariantCurrency(REALobject v)
 {
-    REALcurrency out = 0;
-    HostEntry<REALGetPropValueCurrencyProc>("REALGetPropValueCurrency")(v, "CurrencyValue", &out);
+    auto read = HostEntry<REALGetPropValueCurrencyProc>("REALGetPropValueCurrency");
+    REALcurrency out = -1;
+    if (read)
+        read(v, "CurrencyValue", &out);
     return out;
 }
 

@@ -1,0 +1,5 @@
+// Releasing what one does not own, or releasing twice, is reported with the call.
+Var mine As String = "mine"
+ProbeHost.OverRelease(mine)
+ProbeHost.ReleaseTwice
+ProbeHost.DisposeTwice("data")
