@@ -126,6 +126,7 @@ int RunProgram(Interpreter & interpreter, Runtime & rt, Program program, std::os
 
 int Host::Run(std::string_view script, std::ostream & out, std::ostream & err)
 {
+    size_t diagnosticsBefore = runtime_->Diagnostics().size();
     Program program;
     try {
         program = ParseProgram(script);
@@ -140,13 +141,23 @@ int Host::Run(std::string_view script, std::ostream & out, std::ostream & err)
     }
     runtime_->accounting.SetScriptLine(0);
     out.flush();
+    ReportDiagnostics(diagnosticsBefore, err);
     if (!ReportAccounting(err) && code == kExitSuccess)
         code = kExitAccountingError;
     return code;
 }
 
+void Host::ReportDiagnostics(size_t from, std::ostream & err) const
+{
+    const auto & diagnostics = runtime_->Diagnostics();
+    for (size_t i = from; i < diagnostics.size(); ++i)
+        err << "hostsim: " << (diagnostics[i].level == Diagnostic::Level::Error ? "error: " : "warning: ")
+            << diagnostics[i].text << '\n';
+}
+
 int Host::RunInteractive(std::istream & in, std::ostream & out, std::ostream & err, bool prompt)
 {
+    size_t diagnosticsBefore = runtime_->Diagnostics().size();
     int last = kExitSuccess;
     {
         Interpreter interpreter(*runtime_, out);
@@ -179,6 +190,7 @@ int Host::RunInteractive(std::istream & in, std::ostream & out, std::ostream & e
         }
     }
     runtime_->accounting.SetScriptLine(0);
+    ReportDiagnostics(diagnosticsBefore, err);
     if (!ReportAccounting(err) && last == kExitSuccess)
         last = kExitAccountingError;
     return last;

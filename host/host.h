@@ -78,6 +78,9 @@ public:
     Runtime & runtime() { return *runtime_; }
 
 private:
+    // Writes the warnings and errors the host noted since diagnostic number `from`.
+    void ReportDiagnostics(size_t from, std::ostream & err) const;
+
     std::vector<std::unique_ptr<SharedLibrary>> libraries_;
     std::unique_ptr<Runtime> runtime_;
 };

@@ -43,7 +43,7 @@ int main(int argc, char ** argv)
         }
     }
     for (const Diagnostic & d : host.Diagnostics())
-        std::cerr << "hostsim: warning: " << d.text << '\n';
+        std::cerr << "hostsim: warning: " << d.text << '\n'; // load errors stopped above
     if (cl.hasStatement)
         return host.Run(cl.statement, std::cout, std::cerr);
     if (!cl.scriptFile.empty())

@@ -45,6 +45,9 @@ R Guarded(const char * entry, R neutral, F body)
     } catch (const std::exception & e) {
         rt->Report(Diagnostic::Level::Error, std::string(entry) + " failed: " + e.what());
         return neutral;
+    } catch (...) {
+        rt->Report(Diagnostic::Level::Error, std::string(entry) + " failed");
+        return neutral;
     }
 }
 

@@ -96,10 +96,10 @@ std::optional<Interpreter::Chosen> Interpreter::Choose(const std::vector<const M
     return chosen;
 }
 
-Value Interpreter::CallMethodRow(const Chosen & chosen, REALobject self, std::vector<Argument> & args)
+Value Interpreter::CallMethodRow(Chosen & chosen, REALobject self, std::vector<Argument> & args)
 {
     const MethodInfo & m = *chosen.method;
-    std::vector<Value> & converted = const_cast<std::vector<Value> &>(chosen.converted);
+    std::vector<Value> & converted = chosen.converted;
     std::vector<Value *> pointers;
     for (size_t i = 0; i < m.signature.parameters.size() && i < converted.size(); ++i) {
         if (m.signature.parameters[i].byRef && i < args.size())

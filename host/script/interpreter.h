@@ -107,7 +107,7 @@ private:
                                    std::vector<Argument> & args);
     void InvokeAssign(const std::vector<const MethodInfo *> & candidates, REALobject self, std::vector<Argument> & args,
                       const Value & assigned, SourcePosition where, const std::string & what);
-    Value CallMethodRow(const Chosen & chosen, REALobject self, std::vector<Argument> & args);
+    Value CallMethodRow(Chosen & chosen, REALobject self, std::vector<Argument> & args);
     Value CallRoutine(const Routine & r, std::vector<Argument> & args, SourcePosition where);
     Value ReadProperty(const PropertyInfo & p, REALobject self);
     void WriteProperty(const PropertyInfo & p, REALobject self, const Value & v, SourcePosition where);
