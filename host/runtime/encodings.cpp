@@ -82,53 +82,55 @@ void WriteUnit(std::string & out, uint32_t v, size_t size, bool bigEndian)
     }
 }
 
+// UTF-8 sequences by length: the lead byte's tag under its mask, and the smallest
+// code point that may use this length (shorter forms are invalid).
+struct Utf8Form {
+    unsigned char leadMask;
+    unsigned char leadTag;
+    char32_t minimum;
+};
+const Utf8Form kUtf8Forms[] = {
+    {0x80, 0x00, 0x0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000},
+};
+const size_t kUtf8MaxLength = sizeof kUtf8Forms / sizeof kUtf8Forms[0];
+const unsigned char kContinuationMask = 0xC0;
+const unsigned char kContinuationTag = 0x80;
+const int kContinuationBits = 6;
+const char32_t kContinuationPayload = 0x3F;
+
 bool DecodeUtf8(std::string_view bytes, std::u32string & out)
 {
-    const unsigned char kContinuationMask = 0xC0, kContinuationTag = 0x80;
     size_t i = 0;
     while (i < bytes.size()) {
-        unsigned char c = static_cast<unsigned char>(bytes[i]);
-        int extra;
-        char32_t cp;
-        char32_t minimum;
-        if (c < 0x80) { extra = 0; cp = c; minimum = 0; }
-        else if ((c & 0xE0) == 0xC0) { extra = 1; cp = c & 0x1F; minimum = 0x80; }
-        else if ((c & 0xF0) == 0xE0) { extra = 2; cp = c & 0x0F; minimum = 0x800; }
-        else if ((c & 0xF8) == 0xF0) { extra = 3; cp = c & 0x07; minimum = 0x10000; }
-        else return false;
-        if (i + extra >= bytes.size() && extra > 0)
+        unsigned char lead = static_cast<unsigned char>(bytes[i]);
+        size_t length = 0;
+        while (length < kUtf8MaxLength && (lead & kUtf8Forms[length].leadMask) != kUtf8Forms[length].leadTag)
+            ++length;
+        if (length == kUtf8MaxLength || i + length >= bytes.size() + (length == 0 ? 1 : 0))
             return false;
-        for (int k = 1; k <= extra; ++k) {
-            unsigned char cc = static_cast<unsigned char>(bytes[i + k]);
-            if ((cc & kContinuationMask) != kContinuationTag)
+        char32_t cp = lead & static_cast<unsigned char>(~kUtf8Forms[length].leadMask);
+        for (size_t k = 1; k <= length; ++k) {
+            unsigned char c = static_cast<unsigned char>(bytes[i + k]);
+            if ((c & kContinuationMask) != kContinuationTag)
                 return false;
-            cp = (cp << 6) | (cc & 0x3F);
+            cp = (cp << kContinuationBits) | (c & kContinuationPayload);
         }
-        if (cp < minimum || cp > kLargestCodePoint || (cp >= kSurrogateFirst && cp <= kSurrogateLast))
+        if (cp < kUtf8Forms[length].minimum || cp > kLargestCodePoint || (cp >= kSurrogateFirst && cp <= kSurrogateLast))
             return false;
         out += cp;
-        i += extra + 1;
+        i += length + 1;
     }
     return true;
 }
 
 void EncodeUtf8(char32_t cp, std::string & out)
 {
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else if (cp < 0x10000) {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (cp >> 18));
-        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
+    size_t length = 0;
+    while (length + 1 < kUtf8MaxLength && cp >= kUtf8Forms[length + 1].minimum)
+        ++length;
+    out += static_cast<char>(kUtf8Forms[length].leadTag | (cp >> (kContinuationBits * length)));
+    for (size_t k = length; k > 0; --k)
+        out += static_cast<char>(kContinuationTag | ((cp >> (kContinuationBits * (k - 1))) & kContinuationPayload));
 }
 
 bool DecodeUtf16(std::string_view bytes, bool bigEndian, std::u32string & out)

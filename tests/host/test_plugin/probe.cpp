@@ -125,7 +125,7 @@ void SwapProbes(REALobject, REALobject * a, REALobject * b)
 
 RBInteger GetSlot(REALobject self, RBInteger index)
 {
-    if (index < 0 || index >= 4) {
+    if (index < 0 || index >= kProbeSlots) {
         Raise("OutOfBoundsException", "slot " + std::to_string(index), 0);
         return 0;
     }
@@ -134,7 +134,7 @@ RBInteger GetSlot(REALobject self, RBInteger index)
 
 void SetSlot(REALobject self, RBInteger index, RBInteger value)
 {
-    if (index >= 0 && index < 4)
+    if (index >= 0 && index < kProbeSlots)
         DataOf(self).slots[index] = value;
 }
 

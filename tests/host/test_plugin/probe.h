@@ -4,6 +4,8 @@
 
 #include "sdk/records.h"
 
+const RBInteger kProbeSlots = 4;
+
 struct ProbeData {
     RBInteger count;
     double ratio;
@@ -15,7 +17,7 @@ struct ProbeData {
     RBColor tint;
     REALstring label;
     REALobject link;
-    RBInteger slots[4];
+    RBInteger slots[kProbeSlots];
     RBBoolean initialized;
 };
 
