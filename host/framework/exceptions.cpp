@@ -10,6 +10,7 @@
 namespace hostsim {
 
 const char * const kRuntimeExceptionClassName = "RuntimeException";
+const char * const kMessagePropertyName = "Message";
 const char * const kNilObjectExceptionClassName = "NilObjectException";
 const char * const kOutOfBoundsExceptionClassName = "OutOfBoundsException";
 const char * const kTypeMismatchExceptionClassName = "TypeMismatchException";
@@ -46,7 +47,7 @@ void Finalize(REALobject self)
 }
 
 REALproperty gProperties[] = {
-    {nullptr, "Message", "String", REALTargetAll, REALstandardGetter, REALstandardSetter,
+    {nullptr, kMessagePropertyName, "String", REALTargetAll, REALstandardGetter, REALstandardSetter,
      offsetof(ExceptionData, message), nullptr, 0, nullptr, 0, nullptr},
     {nullptr, "ErrorNumber", "Integer", REALTargetAll, REALstandardGetter, REALstandardSetter,
      offsetof(ExceptionData, errorNumber), nullptr, 0, nullptr, 0, nullptr},
@@ -104,10 +105,9 @@ void RaiseHostException(Runtime & rt, const char * className, const std::string 
     const ClassInfo * cls = rt.FindClass(className);
     if (!cls)
         cls = &rt.Framework(kRuntimeExceptionClassName);
-    REALobject e = rt.NewObject(*cls);
-    DataOf(e).message = rt.NewString(message, kREALTextEncodingUTF8);
-    rt.Raise(e);
-    rt.UnlockObject(e, "the host raising an exception");
+    Value e = Value::AdoptObject(TypeRef::OfClass(cls->name), rt.NewObject(*cls));
+    DataOf(e.object()).message = rt.NewString(message, kREALTextEncodingUTF8);
+    rt.Raise(e.object());
 }
 
 std::string ExceptionMessage(REALobject exception)

@@ -12,6 +12,7 @@ namespace hostsim {
 // Names of framework classes the host itself relies on.
 extern const char * const kObjectClassName;
 extern const char * const kRuntimeExceptionClassName;
+extern const char * const kMessagePropertyName;
 extern const char * const kNilObjectExceptionClassName;
 extern const char * const kOutOfBoundsExceptionClassName;
 extern const char * const kTypeMismatchExceptionClassName;

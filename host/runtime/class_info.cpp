@@ -5,6 +5,8 @@
 
 namespace hostsim {
 
+const char * const kConstructorName = "Constructor";
+
 std::string MethodInfo::QualifiedName() const
 {
     return owner->name + "." + signature.name;

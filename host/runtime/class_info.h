@@ -13,6 +13,9 @@
 
 namespace hostsim {
 
+// The name of constructor rows.
+extern const char * const kConstructorName;
+
 struct ClassInfo;
 
 struct Attribute {

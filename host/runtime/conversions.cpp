@@ -38,6 +38,13 @@ bool IsPlainInteger(TypeKind k)
     return k >= TypeKind::Int8 && k <= TypeKind::UInt64;
 }
 
+// Addresses and four-character codes: integers the host keeps apart from numbers,
+// but that integers may be assigned to and from.
+bool IsIntegerLike(TypeKind k)
+{
+    return k == TypeKind::Ptr || k == TypeKind::WindowPtr || k == TypeKind::OSType;
+}
+
 const ClassInfo * ClassOf(const Runtime & rt, const TypeRef & t)
 {
     if (t.className.empty() || EqualsIgnoringCase(t.className, kObjectClassName))
@@ -134,6 +141,8 @@ int ConversionCost(const Runtime & rt, const TypeRef & from, const TypeRef & to)
         return ObjectCost(rt, from, to);
     if (IsStringKind(from.kind) && IsStringKind(to.kind))
         return kRetagString;
+    if ((IsIntegerLike(from.kind) && IsPlainInteger(to.kind)) || (IsPlainInteger(from.kind) && IsIntegerLike(to.kind)))
+        return kNarrowing;
     if (!IsArithmetic(from.kind) || !IsArithmetic(to.kind))
         return kCannotConvert;
     if (IsPlainInteger(from.kind) && IsPlainInteger(to.kind)) {

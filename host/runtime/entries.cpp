@@ -275,7 +275,7 @@ REALobject NewInstance(Runtime & rt, const ClassInfo & cls, bool runConstructor)
     REALobject o = rt.NewObject(cls);
     if (!runConstructor)
         return o;
-    for (const MethodInfo * m : cls.FindMethods("Constructor", false)) {
+    for (const MethodInfo * m : cls.FindMethods(kConstructorName, false)) {
         if (m->signature.parameters.empty()) {
             CallMethod(rt, *m, o, {});
             break;
@@ -526,7 +526,7 @@ REALobject NewMemoryBlock(int bytes)
         const ClassInfo & cls = rt.Framework(kMemoryBlockClassName);
         REALobject block = rt.NewObject(cls);
         Value size = Value::Signed(TypeKind::Int64, bytes);
-        CallMethod(rt, *cls.FindMethods("Constructor", false).front(), block, {&size});
+        CallMethod(rt, *cls.FindMethods(kConstructorName, false).front(), block, {&size});
         return block;
     });
 }

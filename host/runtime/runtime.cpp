@@ -4,6 +4,7 @@
 #include <new>
 #include <stdexcept>
 
+#include "host/framework/framework.h"
 #include "host/lang/lexer.h"
 #include "host/runtime/entries.h"
 #include "sdk/encodings.h"
@@ -14,7 +15,6 @@ namespace {
 
 Runtime * gCurrent = nullptr;
 const std::align_val_t kObjectAlignment{16};
-const char * const kRuntimeExceptionClass = "RuntimeException";
 
 using ObjectProc = void (*)(REALobject);
 
@@ -187,7 +187,7 @@ void Runtime::Raise(REALobject exception)
 {
     if (!exception || !ValidObject(exception, "RuntimeRaiseException"))
         return;
-    if (!exception->cls->IsA(&Framework(kRuntimeExceptionClass))) {
+    if (!exception->cls->IsA(&Framework(kRuntimeExceptionClassName))) {
         accounting.Fault("RuntimeRaiseException was given an object of class " + exception->cls->name +
                          ", which is not a RuntimeException, in " + accounting.CurrentContext());
         return;

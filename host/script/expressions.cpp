@@ -9,7 +9,6 @@ namespace hostsim {
 
 namespace {
 
-const char * const kConstructorName = "Constructor";
 const char * const kConvertOperator = "Operator_Convert";
 
 } // namespace

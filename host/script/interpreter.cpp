@@ -8,12 +8,6 @@
 
 namespace hostsim {
 
-namespace {
-
-const char * const kMessageProperty = "Message";
-
-} // namespace
-
 void Interpreter::Run(Program program)
 {
     for (auto & r : program.routines)
@@ -36,7 +30,7 @@ std::string Interpreter::DescribeUnhandled(const Value & exception)
 {
     REALobject e = exception.object();
     std::string message;
-    if (const PropertyInfo * p = e->cls->FindProperty(kMessageProperty, false))
+    if (const PropertyInfo * p = e->cls->FindProperty(kMessagePropertyName, false))
         message = TextOf(ReadProperty(*p, e));
     return "Unhandled " + e->cls->name + ": " + message;
 }

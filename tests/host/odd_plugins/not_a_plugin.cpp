@@ -1,5 +1,7 @@
 // A shared library that is not a plugin: it has no REALPluginMain.
-extern "C" __attribute__((visibility("default"))) int SomethingElse()
+#include "sdk/host_entries.h"
+
+extern "C" REAL_PLUGIN_EXPORT int SomethingElse()
 {
     return 1;
 }
