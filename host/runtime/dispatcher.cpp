@@ -7,6 +7,8 @@ namespace hostsim {
 namespace {
 
 const char * const kDirectField = "a property stored in object data";
+// What a fault names when plugin code hands the host something that is not a live value.
+const char * const kHandedBack = "a value handed to the host";
 
 NativeSignature SignatureOf(const Signature & sig, bool withObject, bool withAssigned)
 {
@@ -76,10 +78,9 @@ Value Invoke(Runtime & rt, const MethodInfo & method, REALproc handler, REALobje
         natives.push_back(ToSlot(*assigned));
     NativeSlot result{};
     REALobject pendingBefore = rt.Pending();
-    {
-        Accounting::Scope scope(rt.accounting, method.QualifiedName());
-        rt.native().Call(handler, SignatureOf(sig, withObject, assigned != nullptr), natives, result);
-    }
+    // What the handler hands back is checked in its name.
+    Accounting::Scope scope(rt.accounting, method.QualifiedName());
+    rt.native().Call(handler, SignatureOf(sig, withObject, assigned != nullptr), natives, result);
     WriteBack(sig, args, byRef);
     if (assigned || !sig.result || rt.Pending() != pendingBefore)
         return Value();
@@ -122,10 +123,19 @@ NativeSlot ToSlot(const Value & v)
 Value FromSlot(const TypeRef & type, const NativeSlot & s, bool adopt)
 {
     TypeKind k = type.kind;
-    if (IsStringKind(k))
-        return adopt ? Value::AdoptString(k, static_cast<REALstring>(s.p)) : Value::BorrowString(k, static_cast<REALstring>(s.p));
-    if (k == TypeKind::Object || k == TypeKind::Variant)
-        return adopt ? Value::AdoptObject(type, static_cast<REALobject>(s.p)) : Value::BorrowObject(type, static_cast<REALobject>(s.p));
+    Runtime * rt = Runtime::Current();
+    if (IsStringKind(k)) {
+        auto str = static_cast<REALstring>(s.p);
+        if (!rt->ValidString(str, kHandedBack))
+            return Value::AdoptString(k, nullptr);
+        return adopt ? Value::AdoptString(k, str) : Value::BorrowString(k, str);
+    }
+    if (k == TypeKind::Object || k == TypeKind::Variant) {
+        auto object = static_cast<REALobject>(s.p);
+        if (!rt->ValidObject(object, kHandedBack))
+            return Value::AdoptObject(type, nullptr);
+        return adopt ? Value::AdoptObject(type, object) : Value::BorrowObject(type, object);
+    }
     switch (CTypeOf(type)) {
     case CType::Int8: return k == TypeKind::Boolean ? Value::Boolean(s.i8 != 0) : Value::Signed(k, s.i8);
     case CType::UInt8: return Value::Unsigned(k, s.u8);
@@ -177,10 +187,8 @@ Value GetProperty(Runtime & rt, const PropertyInfo & p, REALobject self)
     }
     NativeSlot result{};
     REALobject pendingBefore = rt.Pending();
-    {
-        Accounting::Scope scope(rt.accounting, p.QualifiedName() + " getter");
-        rt.native().Call(p.getter, sig, args, result);
-    }
+    Accounting::Scope scope(rt.accounting, p.QualifiedName() + " getter");
+    rt.native().Call(p.getter, sig, args, result);
     if (rt.Pending() != pendingBefore)
         return Value();
     return FromSlot(p.type, result, true);

@@ -12,6 +12,8 @@ const char * const kAndOperators[] = {"and"};
 const char * const kComparisonOperators[] = {"=", "<>", "<", ">", "<=", ">=", "is"};
 const char * const kAdditiveOperators[] = {"+", "-"};
 const char * const kMultiplicativeOperators[] = {"*", "/", "\\", "mod"};
+// Deepest nesting of blocks and expressions read, so that no text can exhaust the stack.
+const int kMaxNesting = 256;
 
 class Parser {
 public:
@@ -33,6 +35,22 @@ public:
     }
 
 private:
+    // Counts one level of nesting while it lives.
+    class Nest {
+    public:
+        explicit Nest(Parser & p) : p_(p)
+        {
+            if (++p_.depth_ > kMaxNesting)
+                p_.Fail("the text is nested too deeply");
+        }
+        ~Nest() { --p_.depth_; }
+        Nest(const Nest &) = delete;
+        Nest & operator=(const Nest &) = delete;
+
+    private:
+        Parser & p_;
+    };
+
     // --- tokens
 
     const Token & Current() const { return tokens_[pos_]; }
@@ -199,6 +217,7 @@ private:
 
     std::unique_ptr<Stmt> ParseStatement()
     {
+        Nest nest(*this);
         const Token & t = Current();
         if (t.IsWord("var") || t.IsWord("dim"))
             return ParseVar();
@@ -479,7 +498,11 @@ private:
         return e;
     }
 
-    ExprPtr ParseExpression() { return ParseOr(); }
+    ExprPtr ParseExpression()
+    {
+        Nest nest(*this);
+        return ParseOr();
+    }
 
     ExprPtr ParseOr()
     {
@@ -507,6 +530,7 @@ private:
 
     ExprPtr ParseNot()
     {
+        Nest nest(*this);
         if (Current().IsWord("not")) {
             ExprPtr e = Make(Expr::Kind::Unary, Current().where);
             e->name = "not";
@@ -564,6 +588,7 @@ private:
 
     ExprPtr ParseUnary()
     {
+        Nest nest(*this);
         if (Current().IsSymbol("-")) {
             ExprPtr e = Make(Expr::Kind::Unary, Current().where);
             e->name = "-";
@@ -706,6 +731,7 @@ private:
 
     std::vector<Token> tokens_;
     size_t pos_ = 0;
+    int depth_ = 0;
 };
 
 } // namespace

@@ -55,6 +55,17 @@ TEST(Parser, BlocksLeftOpenAskForMoreInput)
     }
 }
 
+TEST(Parser, RefusesNestingDeeperThanItReads)
+{
+    std::string deep(100000, '(');
+    EXPECT_THROW(ParseProgram("Print " + deep + "1"), SourceError);
+    std::string negations;
+    for (int i = 0; i < 100000; ++i)
+        negations += "Not ";
+    EXPECT_THROW(ParseProgram("Print " + negations + "True"), SourceError);
+    EXPECT_NO_THROW(ParseProgram("Print ((((((((((1))))))))))"));
+}
+
 TEST(Formatting, NumbersAsStrWritesThem)
 {
     EXPECT_EQ(FormatReal(2.5), "2.5");

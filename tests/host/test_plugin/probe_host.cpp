@@ -200,6 +200,13 @@ void DisposeTwice(REALstring s)
     HostEntry<PluginDisposeStringDataProc>("PluginDisposeStringData")(&copy);
 }
 
+// Hands the host a pointer that is not one of its strings.
+REALstring ReturnForeign()
+{
+    static char notAString[sizeof(void *) * 4] = "not a host string";
+    return reinterpret_cast<REALstring>(notAString);
+}
+
 template <class T>
 REALproc Proc(T f)
 {
@@ -232,6 +239,7 @@ REALmethodDefinition gMethods[] = {
     ROW(&OverRelease, "OverRelease(s As String)"),
     ROW(&ReleaseTwice, "ReleaseTwice()"),
     ROW(&DisposeTwice, "DisposeTwice(s As String)"),
+    ROW(&ReturnForeign, "ReturnForeign() As String"),
 };
 
 } // namespace
