@@ -1,6 +1,7 @@
 // ProbeHost: shared methods that go through the host's services (strings, encodings,
 // memory blocks, variants, classes, exception handling) and that make reference
 // faults on purpose, so that tests can see the host report them.
+#include <cstdio>
 #include <cstring>
 #include <string>
 
@@ -200,6 +201,19 @@ void DisposeTwice(REALstring s)
     HostEntry<PluginDisposeStringDataProc>("PluginDisposeStringData")(&copy);
 }
 
+// Two exceptions before returning: the host keeps the first.
+void RaiseTwice()
+{
+    Raise("ProbeError", "first", 1);
+    Raise("OutOfBoundsException", "second", 2);
+}
+
+// A plugin's own trace goes to standard error.
+void Trace(REALstring text)
+{
+    std::fprintf(stderr, "probe trace: %s\n", Utf8Of(text).c_str());
+}
+
 // Hands the host a pointer that is not one of its strings.
 REALstring ReturnForeign()
 {
@@ -240,6 +254,8 @@ REALmethodDefinition gMethods[] = {
     ROW(&ReleaseTwice, "ReleaseTwice()"),
     ROW(&DisposeTwice, "DisposeTwice(s As String)"),
     ROW(&ReturnForeign, "ReturnForeign() As String"),
+    ROW(&RaiseTwice, "RaiseTwice()"),
+    ROW(&Trace, "Trace(text As String)"),
 };
 
 } // namespace
