@@ -19,7 +19,8 @@ typedef void (*RegisterPluginVersionProc)(int version);
 typedef double (*REALGetRBVersionProc)(void);
 typedef RBBoolean (*REALinRuntimeProc)(void);
 
-// "PluginRegisterClass"
+// "PluginRegisterClass". Declared void by the host; the simulated host also answers 1 for
+// a class it accepted and 0 for one it refused, in a full register.
 typedef void (*PluginRegisterClassProc)(REALclassDefinition *definition);
 
 // Strings: "REALBuildString", "REALBuildStringWithEncoding", "StringGetCString",

@@ -77,13 +77,17 @@ RBBoolean InRuntime()
     return Guarded<RBBoolean>("REALinRuntime", 0, [](Runtime & rt) { return rt.settings.inRuntime ? 1 : 0; });
 }
 
-void PluginRegisterClass(REALclassDefinition * definition)
+// Declared void for plugins; this host also answers 1 for a class it accepted and 0 for
+// one it refused, so that a plugin reading the register sees a fixed value.
+RBInteger PluginRegisterClass(REALclassDefinition * definition)
 {
-    GuardedVoid("PluginRegisterClass", [&](Runtime & rt) {
+    return Guarded<RBInteger>("PluginRegisterClass", 0, [&](Runtime & rt) -> RBInteger {
         try {
             RegisterClass(rt, definition, rt.loadingOrigin);
+            return 1;
         } catch (const RegistrationError & e) {
             rt.Report(Diagnostic::Level::Error, rt.loadingOrigin + ": " + e.what());
+            return 0;
         }
     });
 }
@@ -546,7 +550,7 @@ const EntryRow kEntries[] = {
     {"RegisterPluginVersion", Address<RegisterPluginVersionProc>(&RegisterPluginVersion)},
     {"REALGetRBVersion", Address<REALGetRBVersionProc>(&GetRBVersion)},
     {"REALinRuntime", Address<REALinRuntimeProc>(&InRuntime)},
-    {"PluginRegisterClass", Address<PluginRegisterClassProc>(&PluginRegisterClass)},
+    {"PluginRegisterClass", Address(&PluginRegisterClass)},
     {"REALBuildString", Address<REALBuildStringProc>(&BuildString)},
     {"REALBuildStringWithEncoding", Address<REALBuildStringWithEncodingProc>(&BuildStringWithEncoding)},
     {"StringGetCString", Address<StringGetCStringProc>(&StringGetCString)},
