@@ -96,14 +96,20 @@ inline void * FrameworkEntry::Find()
     return address;
 }
 
-// The address of the string's own bytes and, in `length`, their count.
+// The address of the string's own bytes and, in `length`, their count; null (and 0)
+// when the host cannot show both.
 inline const char * REALGetStringContents(REALstring s, size_t * length)
 {
     static HostEntry pCString{"StringGetCString", nullptr};
     static FrameworkEntry pLenB{"LenB( s as string ) as integer", nullptr};
-    RBInteger count = CallHost<LenBProc>(pLenB, s);
+    *length = 0;
+    auto lenB = reinterpret_cast<LenBProc>(pLenB.Find());
+    auto cString = reinterpret_cast<StringGetCStringProc>(pCString.Find());
+    if (!lenB || !cString)
+        return nullptr;
+    RBInteger count = lenB(s);
     *length = count > 0 ? static_cast<size_t>(count) : 0;
-    return static_cast<const char *>(CallHost<StringGetCStringProc>(pCString, s));
+    return static_cast<const char *>(cString(s));
 }
 
 inline void REALLockString(REALstring s)

@@ -138,7 +138,7 @@ void rbText::CheckASCII()
         return;
     size_t length = 0;
     const char * bytes = REALGetStringContents(string_.get(), &length);
-    if (!bytes && length > 0) {
+    if (!bytes) {
         ascii_state_ = kAsciiNot; // nothing to look at: let the host convert
         return;
     }
@@ -148,7 +148,7 @@ void rbText::CheckASCII()
     }
     ascii_state_ = kAsciiOnly;
     for (View * view : {&utf8_, &ascii_}) {
-        view->bytes = bytes ? bytes : empty_;
+        view->bytes = bytes;
         view->length = static_cast<int64_t>(length);
     }
 }
