@@ -18,54 +18,54 @@ struct Arithmetic {
 
     static REALobject Add(REALobject me, REALobject other, RBBoolean round)
     {
-        return Binary(me, other, "Add", "Add", [=](Value & r, const Value & a) { return r.Add(a, round != 0); });
+        return Binary(me, other, "Add", [=](Value & r, const Value & a) { return r.Add(a, round != 0); });
     }
     static REALobject Sub(REALobject me, REALobject other, RBBoolean round)
     {
-        return Binary(me, other, "Sub", "Sub", [=](Value & r, const Value & a) { return r.Sub(a, round != 0); });
+        return Binary(me, other, "Sub", [=](Value & r, const Value & a) { return r.Sub(a, round != 0); });
     }
     static REALobject Mul(REALobject me, REALobject other, RBBoolean round)
     {
-        return Binary(me, other, "Mul", "Mul", [=](Value & r, const Value & a) { return r.Mul(a, round != 0); });
+        return Binary(me, other, "Mul", [=](Value & r, const Value & a) { return r.Mul(a, round != 0); });
     }
     static REALobject Div(REALobject me, REALobject other, RBBoolean round)
     {
-        return Binary(me, other, "Div", "Div", [=](Value & r, const Value & a) { return r.Div(a, round != 0); });
+        return Binary(me, other, "Div", [=](Value & r, const Value & a) { return r.Div(a, round != 0); });
     }
     static REALobject Mod(REALobject me, REALobject other)
     {
-        return Binary(me, other, "Mod", "Mod", [](Value & r, const Value & a) { return r.Mod(a); });
+        return Binary(me, other, "Mod", [](Value & r, const Value & a) { return r.Mod(a); });
     }
     static REALobject BitwiseAnd(REALobject me, REALobject other)
     {
-        return Binary(me, other, "BitwiseAnd", "BitwiseAnd", [](Value & r, const Value & a) { return r.BitAnd(a); });
+        return Binary(me, other, "BitwiseAnd", [](Value & r, const Value & a) { return r.BitAnd(a); });
     }
     static REALobject BitwiseOr(REALobject me, REALobject other)
     {
-        return Binary(me, other, "BitwiseOr", "BitwiseOr", [](Value & r, const Value & a) { return r.BitOr(a); });
+        return Binary(me, other, "BitwiseOr", [](Value & r, const Value & a) { return r.BitOr(a); });
     }
     static REALobject BitwiseXor(REALobject me, REALobject other)
     {
-        return Binary(me, other, "BitwiseXor", "BitwiseXor", [](Value & r, const Value & a) { return r.BitXor(a); });
+        return Binary(me, other, "BitwiseXor", [](Value & r, const Value & a) { return r.BitXor(a); });
     }
 
     static REALobject Operator_Add(REALobject me, REALobject other)
     {
-        return Binary(me, other, "Operator_Add", "Operator_Add", [](Value & r, const Value & a) { return r.Add(a); });
+        return Binary(me, other, "Operator_Add", [](Value & r, const Value & a) { return r.Add(a); });
     }
     static REALobject Operator_Subtract(REALobject me, REALobject other)
     {
-        return Binary(me, other, "Operator_Subtract", "Operator_Subtract",
+        return Binary(me, other, "Operator_Subtract",
                       [](Value & r, const Value & a) { return r.Sub(a); });
     }
     static REALobject Operator_Multiply(REALobject me, REALobject other)
     {
-        return Binary(me, other, "Operator_Multiply", "Operator_Multiply",
+        return Binary(me, other, "Operator_Multiply",
                       [](Value & r, const Value & a) { return r.Mul(a); });
     }
     static REALobject Operator_Divide(REALobject me, REALobject other)
     {
-        return Binary(me, other, "Operator_Divide", "Operator_Divide",
+        return Binary(me, other, "Operator_Divide",
                       [](Value & r, const Value & a) { return r.Div(a); });
     }
 
@@ -160,14 +160,15 @@ struct Arithmetic {
     }
 
 private:
+    // `name` is both the trace's and the failure's.
     template <class Op>
-    static REALobject Binary(REALobject me, REALobject other, const char * name, const char * operation, Op op)
+    static REALobject Binary(REALobject me, REALobject other, const char * name, Op op)
     {
         Trace(name);
         return Guarded([&]() -> REALobject {
             Value result = N::ValueOf(me);
             if (op(result, N::ValueOf(other))) {
-                RaiseOverflowException(operation, N::Ref(me), N::Ref(other));
+                RaiseOverflowException(name, N::Ref(me), N::Ref(other));
                 return nullptr;
             }
             return N::NewBigNumberZQT(result);

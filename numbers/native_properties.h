@@ -11,6 +11,14 @@
 
 namespace zqt {
 
+// Labels of the currency conversion's trace.
+inline const char * const kNumberToCurrencyLog = "NumberToCurrency";
+inline const char * const kScaleLabel = "f";
+inline const char * const kProductLabel = "x";
+inline const char * const kRoundingLabel = "v";
+inline const char * const kFailedLabel = "r";
+inline const char * const kCountLabel = "n";
+
 template <class N>
 struct NativeProperties {
     using Value = typename N::Value;
@@ -86,21 +94,21 @@ struct NativeProperties {
         Trace("GetCurrencyValue");
         return Guarded([&]() -> REALcurrency {
             Value x = N::ValueOf(me);
-            LogDouble("NumberToCurrency", x);
+            LogDouble(kNumberToCurrencyLog, x);
             Value scale;
             scale.FromInt(kCurrencyScale);
-            LogDouble("f", scale);
+            LogDouble(kScaleLabel, scale);
             x.Mul(scale, true);
-            LogDouble("x", x);
+            LogDouble(kProductLabel, x);
             ttmath::uint rounding = x.Round();
             if (DebuggingEnabled)
-                LogMessageX("%s%s %ld", kLogPrefix, "v", static_cast<long>(rounding));
-            LogDouble("x", x);
+                LogMessageX("%s%s %lld", kLogPrefix, kRoundingLabel, static_cast<long long>(rounding));
+            LogDouble(kProductLabel, x);
             ttmath::sint count = 0;
             ttmath::uint failed = x.ToInt(count);
             if (DebuggingEnabled) {
-                LogMessageX("%s%s %lu", kLogPrefix, "r", static_cast<unsigned long>(failed));
-                LogMessageX("%s%s %ld", kLogPrefix, "n", static_cast<long>(count));
+                LogMessageX("%s%s %llu", kLogPrefix, kFailedLabel, static_cast<unsigned long long>(failed));
+                LogMessageX("%s%s %lld", kLogPrefix, kCountLabel, static_cast<long long>(count));
             }
             if (failed) {
                 RaiseOverflowException(operation);

@@ -15,8 +15,6 @@ namespace zqt {
 
 namespace {
 
-const char * const kMessageProperty = "Message";
-const char * const kErrorNumberProperty = "ErrorNumber";
 const RBInteger kErrorNumber = 0;
 
 const char * const kOutOfBoundsFormat =
@@ -50,10 +48,13 @@ bool Any(const std::exception &)
     return true;
 }
 
+// Both range errors read the same.
+const char * const kRangeError = "C++ reports range error";
+
 const StandardMapping kStandardMappings[] = {
     {&Is<std::bad_alloc>, kOutOfMemoryExceptionClass, "Failed to allocate memory"},
-    {&Is<std::range_error>, kOutOfBoundsExceptionClass, "C++ reports range error"},
-    {&Is<std::out_of_range>, kOutOfBoundsExceptionClass, "C++ reports range error"},
+    {&Is<std::range_error>, kOutOfBoundsExceptionClass, kRangeError},
+    {&Is<std::out_of_range>, kOutOfBoundsExceptionClass, kRangeError},
     {&Is<std::overflow_error>, kOutOfBoundsExceptionClass, "C++ reports overflow error"},
     {&Is<std::underflow_error>, kOutOfBoundsExceptionClass, "C++ reports underflow error"},
     {&Any, kRuntimeExceptionClass, "C++ Exception"},

@@ -16,6 +16,10 @@ inline const char * const kOutOfMemoryExceptionClass = "OutOfMemoryException";
 inline const char * const kNilObjectExceptionClass = "NilObjectException";
 inline const char * const kUnsupportedOperationExceptionClass = "UnsupportedOperationException";
 
+// The properties every host exception carries.
+inline const char * const kMessageProperty = "Message";
+inline const char * const kErrorNumberProperty = "ErrorNumber";
+
 // `message` is NUL-terminated UTF-8, or null for no message.
 void RaiseException(const char * className, const char * message);
 // `message` is a host string; the caller keeps its reference.

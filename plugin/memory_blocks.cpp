@@ -14,7 +14,6 @@ namespace {
 
 const char * const kMemoryBlockClass = "MemoryBlock";
 const char * const kMemoryBlockConstructor = "Constructor(bytes as Integer)";
-const char * const kMessageProperty = "Message";
 
 const char * const kBuildFailedLog = "Got C++ exception in REALBuildMemoryblock: ";
 const char * const kBuildFailedFormat = "Failed to allocate a memoryblock with %lld bytes in size.";
