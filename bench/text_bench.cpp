@@ -20,6 +20,7 @@ const std::size_t pool_size = 32;  // values cycled through
 const int exponent_spread = 8;     // values lie in [2^-8, 2^8)
 const int mpfr_all_digits = 0;     // mpfr_get_str: as many digits as the precision needs
 const int decimal = 10;
+const std::size_t mpfr_text_extra = 2; // mpfr_get_str writes a sign and a NUL besides the digits
 
 struct Random {
     std::uint64_t state = 0x2545f4914f6cdd1dull;
@@ -73,7 +74,7 @@ struct MpfrPool {
         }
         mpz_clear(m);
         mpfr_init2(r, bits);
-        buffer.resize(mpfr_get_str_ndigits(decimal, bits) + 8);
+        buffer.resize(mpfr_get_str_ndigits(decimal, bits) + mpfr_text_extra);
     }
 };
 

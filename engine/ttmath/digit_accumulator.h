@@ -59,6 +59,7 @@ public:
         const WordPower wp = LargestWordPower(run.base);
         UInt<man> exact;
         exact.SetZero();
+        uint used = 0;
         Accumulated result = {end, 0, 0};
         const char * word_start = begin;
         uint word = 0;
@@ -68,8 +69,8 @@ public:
                 continue;
             word = word * run.base + DigitValue(*p);
             if (++word_digits == wp.digits) {
-                if (!Append(exact, wp.power, word))
-                    return ReadEachDigit(run, word_start, end, kind, exact, result, value);
+                if (!Append(exact, used, wp.power, word))
+                    return ReadEachDigit(run, word_start, end, kind, exact, used, result, value);
                 result.digits += word_digits;
                 word = 0;
                 word_digits = 0;
@@ -80,8 +81,8 @@ public:
             uint power = 1;
             for (unsigned i = 0; i < word_digits; ++i)
                 power *= run.base;
-            if (!Append(exact, power, word))
-                return ReadEachDigit(run, word_start, end, kind, exact, result, value);
+            if (!Append(exact, used, power, word))
+                return ReadEachDigit(run, word_start, end, kind, exact, used, result, value);
             result.digits += word_digits;
         }
         ToValue(exact, value);
@@ -90,9 +91,20 @@ public:
 
 private:
     // exact := exact * factor + addend, when that stays below 2^N; otherwise false and
-    // exact is unchanged.
-    static bool Append(UInt<man> & exact, uint factor, uint addend)
+    // exact is unchanged. `used` counts the words up to the highest non-zero one.
+    static bool Append(UInt<man> & exact, uint & used, uint factor, uint addend)
     {
+        if (used < man) {
+            // below 2^(64 used), so the result fits used + 1 words
+            exact.table[used] = kernel::mul_1(exact.table, exact.table, used, factor);
+            for (uint i = 0; addend; ++i) {
+                exact.table[i] += addend;
+                addend = exact.table[i] < addend ? 1 : 0;
+            }
+            if (exact.table[used])
+                ++used;
+            return true;
+        }
         uint t[man];
         uint top = kernel::mul_1(t, exact.table, man, factor);
         for (uint i = 0; i < man && addend; ++i) {
@@ -122,12 +134,12 @@ private:
 
     // Digit by digit from p, exactly while the value stays below 2^N, then rounded.
     static Accumulated ReadEachDigit(const DigitRun & run, const char * p, const char * end, RunKind kind,
-                                     UInt<man> & exact, Accumulated & result, Value & value)
+                                     UInt<man> & exact, uint & used, Accumulated & result, Value & value)
     {
         for (; p < end; ++p) {
             if (run.Skipped(*p))
                 continue;
-            if (!Append(exact, run.base, DigitValue(*p)))
+            if (!Append(exact, used, run.base, DigitValue(*p)))
                 break;
             ++result.digits;
         }

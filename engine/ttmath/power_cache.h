@@ -53,13 +53,17 @@ private:
         bool failed = false;     // the square after the last one carried
     };
 
-    static const uint memo_slots = 64;
+    static constexpr uint memo_slots = 64;
+    // 2^64 divided by the golden ratio: multiplying by it spreads neighbouring
+    // magnitudes over the high bits, which pick the slot.
+    static constexpr uint slot_hash_factor = 0x9e3779b97f4a7c15ull;
+    static constexpr unsigned slot_hash_shift = 32;
 
     static Memo & Slot(uint base, uint magnitude, bool reciprocal)
     {
         static thread_local Memo memo[memo_slots];
-        uint h = magnitude * 0x9e3779b97f4a7c15ull + base * 2 + (reciprocal ? 1 : 0);
-        return memo[(h >> 32) % memo_slots];
+        const uint key = (magnitude * (max_base + 1) + base) * 2 + (reciprocal ? 1 : 0);
+        return memo[((key * slot_hash_factor) >> slot_hash_shift) % memo_slots];
     }
 
     // s_i, or null when forming it carries.

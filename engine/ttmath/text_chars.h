@@ -32,20 +32,23 @@ inline bool IsValidBase(uint base)
 
 // Value of '0'-'9', 'a'-'z', 'A'-'Z'; not_a_digit for anything else, bytes above 0x7F
 // included.
+// The value of the digit 'a' (and 'A'); the letters follow the ten decimal digits.
+const uint first_letter_digit = 10;
+
 inline uint DigitValue(char c)
 {
     if (c >= '0' && c <= '9')
         return static_cast<uint>(c - '0');
     if (c >= 'a' && c <= 'z')
-        return static_cast<uint>(c - 'a') + 10;
+        return static_cast<uint>(c - 'a') + first_letter_digit;
     if (c >= 'A' && c <= 'Z')
-        return static_cast<uint>(c - 'A') + 10;
+        return static_cast<uint>(c - 'A') + first_letter_digit;
     return not_a_digit;
 }
 
 inline char DigitChar(uint value)
 {
-    return static_cast<char>(value < 10 ? '0' + value : 'A' + (value - 10));
+    return static_cast<char>(value < first_letter_digit ? '0' + value : 'A' + (value - first_letter_digit));
 }
 
 // Space, tab, carriage return and line feed; no other character.

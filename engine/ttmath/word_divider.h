@@ -49,10 +49,10 @@ private:
         q0 += lo;
         q1 += hi + 1 + (q0 < lo ? 1 : 0);
         uint r = lo - q1 * normalized_;
-        if (r > q0) {
-            --q1;
-            r += normalized_;
-        }
+        // q1 is one too large about half the time: corrected without a branch
+        const uint too_large = uint(0) - (r > q0 ? 1 : 0);
+        q1 += too_large;
+        r += too_large & normalized_;
         if (r >= normalized_) {
             ++q1;
             r -= normalized_;
