@@ -2,6 +2,7 @@
 // shapes them, and both number classes' tables made from the one list of rows.
 #include <cstring>
 #include <memory>
+#include <sstream>
 
 #include "host/framework/framework.h"
 #include "host/runtime/entries.h"
@@ -34,6 +35,12 @@ std::unique_ptr<Host> LoadedAt(double hostVersion, std::string & error)
     if (!host->LoadPlugin(PLUGIN_FILE, error, hostsim::LoadOptions{true}))
         return nullptr;
     return host;
+}
+
+void ExpectNoLeaks(const Host & host)
+{
+    std::ostringstream report;
+    EXPECT_TRUE(host.ReportAccounting(report)) << report.str();
 }
 
 size_t Served(const std::vector<zqt::MethodSpec> & specs)
@@ -161,6 +168,7 @@ TEST(RegistrationByVersion, RecordsCarryTheControlVersionOfTheHost)
         ASSERT_EQ(host->PluginClasses().size(), kClassOrder.size());
         for (const ClassInfo * cls : host->PluginClasses())
             EXPECT_EQ(cls->version, c.control) << cls->name;
+        ExpectNoLeaks(*host);
     }
 }
 
@@ -178,6 +186,7 @@ TEST(RegistrationByVersion, HostsBeforeUIntegerGetEverySharedMethodButTheLast)
             EXPECT_EQ(c.sharedMethods.size(), knowsUInteger ? served : served - 1);
             EXPECT_EQ(c.FindMethods(kLastSharedMethod, true).empty(), !knowsUInteger);
         }
+        ExpectNoLeaks(*host);
     }
 }
 
@@ -236,6 +245,7 @@ TEST(RegistrationByVersion, HostsBefore2012AreHandedVersion9Records)
             EXPECT_EQ(gAttempts[i].sharedMethodCount, served - 1);
             EXPECT_EQ(gAttempts[i].lastSharedMethod.find(kLastSharedMethod), std::string::npos);
         }
+        ExpectNoLeaks(host);
     }
 }
 
@@ -256,11 +266,13 @@ TEST(RegistrationByVersion, MissingEntriesAtStartGiveNeutralResults)
         ASSERT_TRUE(host.LoadPlugin(PLUGIN_FILE, error, hostsim::LoadOptions{true})) << error;
         EXPECT_FALSE(host.PluginVersion().has_value());
         EXPECT_EQ(host.PluginClasses().size(), kClassOrder.size());
+        ExpectNoLeaks(host);
     }
     Host host;
     host.HideEntry("PluginRegisterClass");
     ASSERT_TRUE(host.LoadPlugin(PLUGIN_FILE, error, hostsim::LoadOptions{true})) << error;
     EXPECT_TRUE(host.PluginClasses().empty());
+    ExpectNoLeaks(host);
 }
 
 TEST(FlagFixing, TargetBitsAndThePrivateMarkerFollowTheHostVersion)
@@ -298,15 +310,6 @@ TEST(FlagFixing, ListsAreRewrittenInPlaceUpToTheirCount)
     zqt::FixFlags(properties, 1, "Test");
     EXPECT_EQ(properties[0].flags, 0x6u);
     zqt::FixFlags(static_cast<REALproperty *>(nullptr), 5, "Test");
-}
-
-TEST(DataSize, RoundedUpToWholeGranules)
-{
-    EXPECT_EQ(zqt::RoundedDataSize(8), 16u);
-    EXPECT_EQ(zqt::RoundedDataSize(88), 96u);
-    EXPECT_EQ(zqt::RoundedDataSize(0), 0u);
-    EXPECT_EQ(zqt::RoundedDataSize(16), 16u);
-    EXPECT_EQ(zqt::RoundedDataSize(17), 32u);
 }
 
 TEST(ControlVersion, WithoutAResolverOnlyTheVersionIsSet)
