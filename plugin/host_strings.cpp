@@ -101,7 +101,8 @@ REALstring REALBuildUnicodeString(const void * bytes, int64_t count, uint32_t en
 
 rbText::rbText(REALstring s)
     : startMarker_(kTextMarker), string_(nullptr), encoding_(kREALTextEncodingASCII),
-      ascii_state_(kAsciiUnchecked), utf8_(), ascii_(), empty_(), endMarker_(kTextMarker)
+      ascii_state_(kAsciiUnchecked), hostBytes_(nullptr), hostLength_(0), utf8_(), ascii_(), empty_(),
+      endMarker_(kTextMarker)
 {
     utf8_.length = -1;
     ascii_.length = -1;
@@ -138,19 +139,13 @@ void rbText::CheckASCII()
         return;
     size_t length = 0;
     const char * bytes = REALGetStringContents(string_.get(), &length);
-    if (!bytes) {
-        ascii_state_ = kAsciiNot; // nothing to look at: let the host convert
-        return;
-    }
-    if (!AllAscii(bytes, length)) {
-        ascii_state_ = kAsciiNot;
+    if (!bytes || !AllAscii(bytes, length)) {
+        ascii_state_ = kAsciiNot; // the host converts
         return;
     }
     ascii_state_ = kAsciiOnly;
-    for (View * view : {&utf8_, &ascii_}) {
-        view->bytes = bytes;
-        view->length = static_cast<int64_t>(length);
-    }
+    hostBytes_ = bytes;
+    hostLength_ = static_cast<int64_t>(length);
 }
 
 const char * rbText::GetView(View & view, uint32_t encoding)
@@ -163,16 +158,18 @@ const char * rbText::GetView(View & view, uint32_t encoding)
     view.length = 0;
     if (string_)
         CheckASCII();
-    if (ascii_state_ != kAsciiOnly) {
-        if (REALGetStringData(string_.get(), encoding, &view.data)) {
-            view.holdsData = true;
-            if (view.data.data) {
-                view.bytes = static_cast<const char *>(view.data.data);
-                view.length = static_cast<int64_t>(view.data.length);
-            }
-        } else {
-            Log(kStringDataFailedLog);
+    if (ascii_state_ == kAsciiOnly) {
+        // Text of ASCII bytes reads the same in every encoding: both views share the host's.
+        view.bytes = hostBytes_;
+        view.length = hostLength_;
+    } else if (REALGetStringData(string_.get(), encoding, &view.data)) {
+        view.holdsData = true;
+        if (view.data.data) {
+            view.bytes = static_cast<const char *>(view.data.data);
+            view.length = static_cast<int64_t>(view.data.length);
         }
+    } else {
+        Log(kStringDataFailedLog);
     }
     EnsureTerminated(view);
     return view.bytes;

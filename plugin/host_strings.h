@@ -51,6 +51,8 @@ private:
     OwnedString string_;
     uint32_t encoding_;
     AsciiState ascii_state_;
+    const char * hostBytes_;  // the host's own bytes, once known to be ASCII
+    int64_t hostLength_;
     View utf8_;
     View ascii_;
     char empty_[1];

@@ -10,7 +10,8 @@ namespace zqt {
 // 0.0 when the host does not say.
 inline double rbversion_rbversion = 0.0;
 
-// The record layout version the plugin claims; set at entry from the host's version.
+// The record layout version the plugin claims; set at entry from the host's version,
+// so this initial value (the newest layout) is never the one registered.
 inline uint32_t CurrentREALControlVersion = 15;
 
 // Hosts from this version build strings with an encoding in one call.

@@ -20,12 +20,14 @@ const char * const kBuildFailedFormat = "Failed to allocate a memoryblock with %
 // Room for the fixed words and the number of the message.
 const size_t kBuildFailedMessageSize = 100;
 const char * const kNoDataLog = "data is NULL, so size fixed to zero.";
+// Room for the text of a native exception thrown while a block is made.
+const size_t kFailureTextSize = 256;
 
 struct BuildWork {
     MemoryBlockRequest request;
     bool ran = false;
     bool threw = false;
-    char failure[256] = {};
+    char failure[kFailureTextSize] = {};
 };
 
 // Runs under the host's exception handler; nothing may leave it.
