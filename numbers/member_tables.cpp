@@ -17,18 +17,18 @@ std::string WithClassName(const char * declaration, const char * className)
     return out;
 }
 
-MethodTable::MethodTable(const std::vector<MethodSpec> & specs, const char * className)
+MethodTable::MethodTable(const std::vector<ListedMethod> & list, const char * className)
 {
-    for (const MethodSpec & spec : specs) {
-        if (!spec.function)
+    for (const ListedMethod & listed : list) {
+        if (!listed.function)
             continue;
-        declarations_.push_back(WithClassName(spec.declaration, className));
+        declarations_.push_back(WithClassName(listed.declaration, className));
         REALmethodDefinition row{};
-        row.function = spec.function;
-        row.setterFunction = spec.setter;
+        row.function = listed.function;
+        row.setterFunction = listed.setter;
         row.declaration = declarations_.back().c_str();
         row.mFlags = kMemberFlags;
-        if (spec.hidden) {
+        if (listed.hidden) {
             row.attributeCount = 1;
             row.attributes = DebuggingHiddenAttributes;
         }
@@ -36,17 +36,17 @@ MethodTable::MethodTable(const std::vector<MethodSpec> & specs, const char * cla
     }
 }
 
-PropertyTable::PropertyTable(const std::vector<PropertySpec> & specs)
+PropertyTable::PropertyTable(const std::vector<ListedProperty> & list)
 {
-    for (const PropertySpec & spec : specs) {
-        if (!spec.getter)
+    for (const ListedProperty & listed : list) {
+        if (!listed.getter)
             continue;
         REALproperty row{};
-        row.name = spec.name;
-        row.type = spec.type;
+        row.name = listed.name;
+        row.type = listed.type;
         row.flags = kPropertyFlags;
-        row.getter = spec.getter;
-        row.setter = spec.setter;
+        row.getter = listed.getter;
+        row.setter = listed.setter;
         rows_.push_back(row);
     }
 }

@@ -13,7 +13,7 @@ namespace zqt {
 
 class MethodTable {
 public:
-    MethodTable(const std::vector<MethodSpec> & specs, const char * className);
+    MethodTable(const std::vector<ListedMethod> & list, const char * className);
     MethodTable(const MethodTable &) = delete;
     MethodTable & operator=(const MethodTable &) = delete;
 
@@ -27,7 +27,7 @@ private:
 
 class PropertyTable {
 public:
-    explicit PropertyTable(const std::vector<PropertySpec> & specs);
+    explicit PropertyTable(const std::vector<ListedProperty> & list);
     PropertyTable(const PropertyTable &) = delete;
     PropertyTable & operator=(const PropertyTable &) = delete;
 

@@ -16,14 +16,14 @@ namespace zqt {
 
 inline const char kSelfPlaceholder = '@';
 
-struct MethodSpec {
+struct ListedMethod {
     const char * declaration;
     REALproc function;       // null: not yet served
     REALproc setter = nullptr;
     bool hidden = false;
 };
 
-struct PropertySpec {
+struct ListedProperty {
     const char * name;
     const char * type;
     REALproc getter;         // null: not yet served
@@ -39,7 +39,7 @@ REALproc Handler(F f)
 }
 
 template <class N>
-std::vector<MethodSpec> NumberMethods()
+std::vector<ListedMethod> NumberMethods()
 {
     using L = Lifecycle<N>;
     using A = Arithmetic<N>;
@@ -109,7 +109,7 @@ std::vector<MethodSpec> NumberMethods()
 
 // `NumberWithUInteger` must stay last: hosts before UInteger register one row fewer.
 template <class N>
-std::vector<MethodSpec> NumberSharedMethods()
+std::vector<ListedMethod> NumberSharedMethods()
 {
     using F = Factories<N>;
     return {
@@ -172,7 +172,7 @@ std::vector<MethodSpec> NumberSharedMethods()
 }
 
 template <class N>
-std::vector<PropertySpec> NumberProperties()
+std::vector<ListedProperty> NumberProperties()
 {
     using P = NativeProperties<N>;
     using D = RawData<N>;

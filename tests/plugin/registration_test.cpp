@@ -43,10 +43,10 @@ void ExpectNoLeaks(const Host & host)
     EXPECT_TRUE(host.ReportAccounting(report)) << report.str();
 }
 
-size_t Served(const std::vector<zqt::MethodSpec> & specs)
+size_t Served(const std::vector<zqt::ListedMethod> & list)
 {
     size_t n = 0;
-    for (const auto & s : specs)
+    for (const auto & s : list)
         n += s.function != nullptr;
     return n;
 }
@@ -93,10 +93,10 @@ void ExpectRowForRow(const ClassInfo & c)
 {
     SCOPED_TRACE(c.name);
     for (bool shared : {false, true}) {
-        std::vector<zqt::MethodSpec> specs = shared ? zqt::NumberSharedMethods<N>() : zqt::NumberMethods<N>();
+        std::vector<zqt::ListedMethod> list = shared ? zqt::NumberSharedMethods<N>() : zqt::NumberMethods<N>();
         const std::vector<hostsim::MethodInfo> & rows = shared ? c.sharedMethods : c.methods;
-        std::vector<const zqt::MethodSpec *> served;
-        for (const auto & s : specs)
+        std::vector<const zqt::ListedMethod *> served;
+        for (const auto & s : list)
             if (s.function)
                 served.push_back(&s);
         ASSERT_EQ(rows.size(), served.size());
@@ -110,19 +110,19 @@ void ExpectRowForRow(const ClassInfo & c)
                     << rows[i].declaration << " / " << rows[j].declaration;
         }
     }
-    std::vector<zqt::PropertySpec> properties = zqt::NumberProperties<N>();
+    std::vector<zqt::ListedProperty> properties = zqt::NumberProperties<N>();
     size_t p = 0;
-    for (const auto & spec : properties) {
-        if (!spec.getter)
+    for (const auto & listed : properties) {
+        if (!listed.getter)
             continue;
         ASSERT_LT(p, c.properties.size());
         const hostsim::PropertyInfo & row = c.properties[p++];
-        EXPECT_EQ(row.name, spec.name);
+        EXPECT_EQ(row.name, listed.name);
         hostsim::TypeRef declared;
-        ASSERT_TRUE(hostsim::ParseTypeName(spec.type, declared)) << spec.type;
+        ASSERT_TRUE(hostsim::ParseTypeName(listed.type, declared)) << listed.type;
         EXPECT_EQ(row.type.Name(), declared.Name());
         EXPECT_EQ(row.flags, REALTargetAll | REALTargetRuntimeOnly);
-        EXPECT_EQ(row.setter == nullptr, spec.setter == nullptr) << row.name;
+        EXPECT_EQ(row.setter == nullptr, listed.setter == nullptr) << row.name;
         EXPECT_TRUE(row.attributes.empty());
     }
     EXPECT_EQ(p, c.properties.size());
