@@ -96,20 +96,19 @@ inline void * FrameworkEntry::Find()
     return address;
 }
 
-// The address of the string's own bytes and, in `length`, their count; null (and 0)
-// when the host cannot show both.
+// The address of the string's own bytes and, in `length`, their count.
 inline const char * REALGetStringContents(REALstring s, size_t * length)
 {
     static HostEntry pCString{"StringGetCString", nullptr};
     static FrameworkEntry pLenB{"LenB( s as string ) as integer", nullptr};
+    // Each service missing gives its own neutral result: no bytes, or a length of 0.
     *length = 0;
-    auto lenB = reinterpret_cast<LenBProc>(pLenB.Find());
+    if (auto lenB = reinterpret_cast<LenBProc>(pLenB.Find())) {
+        RBInteger count = lenB(s);
+        *length = count > 0 ? static_cast<size_t>(count) : 0;
+    }
     auto cString = reinterpret_cast<StringGetCStringProc>(pCString.Find());
-    if (!lenB || !cString)
-        return nullptr;
-    RBInteger count = lenB(s);
-    *length = count > 0 ? static_cast<size_t>(count) : 0;
-    return static_cast<const char *>(cString(s));
+    return cString ? static_cast<const char *>(cString(s)) : nullptr;
 }
 
 inline void REALLockString(REALstring s)

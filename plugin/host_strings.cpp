@@ -139,7 +139,12 @@ void rbText::CheckASCII()
         return;
     size_t length = 0;
     const char * bytes = REALGetStringContents(string_.get(), &length);
-    if (!bytes || !AllAscii(bytes, length)) {
+    if (!bytes) {
+        // Without the host's bytes there is nothing to read: the text is empty.
+        bytes = empty_;
+        length = 0;
+    }
+    if (!AllAscii(bytes, length)) {
         ascii_state_ = kAsciiNot; // the host converts
         return;
     }

@@ -77,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(
         HiddenCase{"memoryBlockGetPtr", kBlockScript, "0\n" TOO_SMALL_BLOCK},
         HiddenCase{"PluginCallFunctionWithExceptionHandler", kBlockScript, "128\nset\n"},
         HiddenCase{"REALLoadObjectMethod", kBlockScript, NO_BLOCK "set\n"},
-        HiddenCase{"StringGetCString", kTextScript, "2.5\nFalse\n"},
+        HiddenCase{"StringGetCString", kTextScript, "0\nTrue\n"}, // no bytes: the text is empty
         HiddenCase{"REALLoadGlobalMethod", kTextScript, "2.5\nFalse\n"},
         HiddenCase{"PluginGetStringData", kTextScript, "2.5\nTrue\n"}));
 
