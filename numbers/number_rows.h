@@ -11,6 +11,7 @@
 #include "numbers/lifecycle.h"
 #include "numbers/native_properties.h"
 #include "numbers/raw_data.h"
+#include "numbers/variant_conversion.h"
 #include "text/text_methods.h"
 
 namespace zqt {
@@ -115,6 +116,7 @@ std::vector<ListedMethod> NumberSharedMethods()
 {
     using F = Factories<N>;
     using T = TextMethods<N>;
+    using V = VariantConversion<N>;
     return {
         {"LibTypeStr as String", Handler(&F::rbLibTypeStr), nullptr, true},
         {"NumberWithInteger(value as Integer) as @", Handler(&F::NumberWithInteger)},
@@ -122,7 +124,7 @@ std::vector<ListedMethod> NumberSharedMethods()
         {"NumberWithInt32(value as Int32) as @", Handler(&F::NumberWithInt32)},
         {"NumberWithUInt64(value as UInt64) as @", Handler(&F::NumberWithUInt64)},
         {"NumberWithUInt32(value as UInt32) as @", Handler(&F::NumberWithUInt32)},
-        {"NumberWithVariant(value as variant) as @", kNotYetServed},
+        {"NumberWithVariant(value as variant) as @", Handler(&V::NumberWithVariant)},
         {"NumberWithSingle(value as single) as @", Handler(&F::NumberWithSingle)},
         {"NumberWithDouble(value as double) as @", Handler(&F::NumberWithDouble)},
         {"NumberWithCurrency(value as Currency) as @", Handler(&F::NumberWithCurrency)},
@@ -180,6 +182,7 @@ std::vector<ListedProperty> NumberProperties()
     using P = NativeProperties<N>;
     using D = RawData<N>;
     using T = TextMethods<N>;
+    using V = VariantConversion<N>;
     return {
         {"IsZero", "Boolean", Handler(&P::IsZero), nullptr},
         {"IsNegative", "Boolean", Handler(&P::IsSign), nullptr},
@@ -191,7 +194,7 @@ std::vector<ListedProperty> NumberProperties()
         {"DoubleValue", "Double", Handler(&P::GetDoubleValue), Handler(&P::SetDoubleValue)},
         {"StringValue", "String", Handler(&T::GetStringValue), Handler(&T::SetStringValue)},
         {"CurrencyValue", "Currency", Handler(&P::GetCurrencyValue), Handler(&P::SetCurrencyValue)},
-        {"VariantValue", "Variant", kNotYetServed, kNotYetServed},
+        {"VariantValue", "Variant", Handler(&V::GetVariantValue), Handler(&V::SetVariantValue)},
         {"DataMantissa", "MemoryBlock", Handler(&D::GetDataMantissa), Handler(&D::SetDataMantissa)},
         {"DataExponent", "MemoryBlock", Handler(&D::GetDataExponent), Handler(&D::SetDataExponent)},
         {"DataFlags", "Integer", Handler(&D::GetDataFlags), Handler(&D::SetDataFlags)},
