@@ -54,6 +54,37 @@ inline uint sub(uint * r, const uint * a, const uint * b, uint c)
     return kernel::sub_n(r, a, b, n, c);
 }
 
+// r += c and r -= c (c is 0 or 1) over a size known at compile time, without the
+// branches of an early exit; return the carry or borrow out.
+template<std::size_t n>
+inline uint add_carry(uint * r, uint c)
+{
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (n == 4)
+        return x86_64_kernels::add_carry_4(r, c);
+#endif
+    for (std::size_t i = 0; i < n; ++i) {
+        r[i] += c;
+        c = r[i] < c;
+    }
+    return c;
+}
+
+template<std::size_t n>
+inline uint sub_carry(uint * r, uint c)
+{
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (n == 4)
+        return x86_64_kernels::sub_carry_4(r, c);
+#endif
+    for (std::size_t i = 0; i < n; ++i) {
+        uint before = r[i];
+        r[i] = before - c;
+        c = before < c;
+    }
+    return c;
+}
+
 } // namespace fixed
 } // namespace ttmath
 
