@@ -103,6 +103,46 @@ const char * OpName(Op op)
     }
 }
 
+// The measured loops, one per operation, so that a loop holds only its own operation
+// (a shared loop switching on the operation makes the compiler allocate registers for
+// all four at once).
+template<class Big, Op op>
+void RunOurs(benchmark::State & state, const std::vector<Big> & x, const std::vector<Big> & y)
+{
+    std::size_t i = 0;
+    for (auto _ : state) {
+        Big r(x[i]);
+        if constexpr (op == Op::add)
+            r.Add(y[i]);
+        else if constexpr (op == Op::sub)
+            r.Sub(y[i]);
+        else if constexpr (op == Op::mul)
+            r.Mul(y[i]);
+        else
+            r.Div(y[i]);
+        benchmark::DoNotOptimize(r);
+        i = (i + 1) % pool_size;
+    }
+}
+
+template<Op op>
+void RunMpfr(benchmark::State & state, mpfr_ptr r, const std::vector<mpfr_t> & x, const std::vector<mpfr_t> & y)
+{
+    std::size_t i = 0;
+    for (auto _ : state) {
+        if constexpr (op == Op::add)
+            mpfr_add(r, x[i], y[i], MPFR_RNDN);
+        else if constexpr (op == Op::sub)
+            mpfr_sub(r, x[i], y[i], MPFR_RNDN);
+        else if constexpr (op == Op::mul)
+            mpfr_mul(r, x[i], y[i], MPFR_RNDN);
+        else
+            mpfr_div(r, x[i], y[i], MPFR_RNDN);
+        benchmark::DoNotOptimize(r);
+        i = (i + 1) % pool_size;
+    }
+}
+
 template<class Big>
 void RegisterOurs(Op op, const std::vector<Operand> & a, const std::vector<Operand> & b)
 {
@@ -111,21 +151,13 @@ void RegisterOurs(Op op, const std::vector<Operand> & a, const std::vector<Opera
         x.push_back(ToOurs<Big>(a[i]));
         y.push_back(ToOurs<Big>(b[i]));
     }
+    typedef void (*Loop)(benchmark::State &, const std::vector<Big> &, const std::vector<Big> &);
+    Loop loop = op == Op::add ? Loop(RunOurs<Big, Op::add>)
+              : op == Op::sub ? Loop(RunOurs<Big, Op::sub>)
+              : op == Op::mul ? Loop(RunOurs<Big, Op::mul>)
+                              : Loop(RunOurs<Big, Op::div>);
     benchmark::RegisterBenchmark(bench::Name(OpName(op), Big::mantissa_bits, bench::ours).c_str(),
-                                 [op, x, y](benchmark::State & state) {
-                                     std::size_t i = 0;
-                                     for (auto _ : state) {
-                                         Big r(x[i]);
-                                         switch (op) {
-                                         case Op::add: r.Add(y[i]); break;
-                                         case Op::sub: r.Sub(y[i]); break;
-                                         case Op::mul: r.Mul(y[i]); break;
-                                         case Op::div: r.Div(y[i]); break;
-                                         }
-                                         benchmark::DoNotOptimize(r);
-                                         i = (i + 1) % pool_size;
-                                     }
-                                 });
+                                 [loop, x, y](benchmark::State & state) { loop(state, x, y); });
 }
 
 // MPFR values live as long as the process; the benchmarks refer to them.
@@ -148,19 +180,13 @@ struct MpfrPool {
 void RegisterMpfr(Op op, unsigned bits, const std::vector<Operand> & a, const std::vector<Operand> & b)
 {
     MpfrPool * pool = new MpfrPool(bits, a, b);
-    benchmark::RegisterBenchmark(bench::Name(OpName(op), bits, "mpfr").c_str(), [op, pool](benchmark::State & state) {
-        std::size_t i = 0;
-        for (auto _ : state) {
-            switch (op) {
-            case Op::add: mpfr_add(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
-            case Op::sub: mpfr_sub(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
-            case Op::mul: mpfr_mul(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
-            case Op::div: mpfr_div(pool->r, pool->x[i], pool->y[i], MPFR_RNDN); break;
-            }
-            benchmark::DoNotOptimize(pool->r);
-            i = (i + 1) % pool_size;
-        }
-    });
+    typedef void (*Loop)(benchmark::State &, mpfr_ptr, const std::vector<mpfr_t> &, const std::vector<mpfr_t> &);
+    Loop loop = op == Op::add ? Loop(RunMpfr<Op::add>)
+              : op == Op::sub ? Loop(RunMpfr<Op::sub>)
+              : op == Op::mul ? Loop(RunMpfr<Op::mul>)
+                              : Loop(RunMpfr<Op::div>);
+    benchmark::RegisterBenchmark(bench::Name(OpName(op), bits, "mpfr").c_str(),
+                                 [loop, pool](benchmark::State & state) { loop(state, pool->r, pool->x, pool->y); });
 }
 
 template<class Float>

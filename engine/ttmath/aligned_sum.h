@@ -1,8 +1,7 @@
 // Sums and differences of two mantissas whose exponents differ by less than a word:
 // the smaller operand is shifted right by k bits, and the bits shifted out decide the
-// rounding. These are the steps of Add for its common case; the four-word size (the
-// 256-bit mantissa) has branch-free assembly on x86-64, every size has the C++ here,
-// and both give the same words.
+// rounding. These are the mantissa steps of Add's common case (big_add.h); on x86-64
+// the 256-bit type has them in assembly (big_add_x86_64.h), with the same results.
 #ifndef TTMATH_ALIGNED_SUM_H
 #define TTMATH_ALIGNED_SUM_H
 
@@ -39,10 +38,6 @@ inline uint shift_right(uint * s, const uint * small, unsigned k)
 template<std::size_t n>
 inline uint sum(uint * r, const uint * big, const uint * small, unsigned k, bool round)
 {
-#ifdef TTMATH_ASM_X86_64
-    if constexpr (n == 4)
-        return x86_64_kernels::sum_shifted_4(r, big, small, k, round ? 1 : 0);
-#endif
     uint s[n];
     uint lost = shift_right<n>(s, small, k);
     const uint carry = kernel::add_n(r, big, s, n, 0);
@@ -60,21 +55,23 @@ inline uint sum(uint * r, const uint * big, const uint * small, unsigned k, bool
 }
 
 // r = big - floor(small / 2^k) (big >= small, k < 64), then decremented when `round` is
-// true and the bits shifted out exceed half a unit or equal it with r odd. r may alias
-// neither input.
+// true and the bits shifted out exceed half a unit or equal it with r odd, then shifted
+// left until its top bit is set. Returns that shift (below 64), or 64 when the top word
+// is zero (r is then meaningless). r may alias neither input.
 template<std::size_t n>
-inline void difference(uint * r, const uint * big, const uint * small, unsigned k, bool round)
+inline unsigned difference(uint * r, const uint * big, const uint * small, unsigned k, bool round)
 {
-#ifdef TTMATH_ASM_X86_64
-    if constexpr (n == 4) {
-        x86_64_kernels::difference_shifted_4(r, big, small, k, round ? 1 : 0);
-        return;
-    }
-#endif
     uint s[n];
     const uint lost = shift_right<n>(s, small, k);
     kernel::sub_n(r, big, s, n, 0);
     fixed::sub_carry<n>(r, round && rounds_away(lost, r[0]) ? 1 : 0);
+    if (r[n - 1] == 0)
+        return words::bits_per_word;
+    const unsigned z = words::clz(r[n - 1]);
+    for (std::size_t i = n - 1; i > 0; --i)
+        r[i] = words::shl_pair(r[i], r[i - 1], z);
+    r[0] <<= z;
+    return z;
 }
 
 } // namespace aligned

@@ -9,6 +9,9 @@
 #define TTMATH_BIG_ADD_H
 
 #include "aligned_sum.h"
+#ifdef TTMATH_ASM_X86_64
+#include "big_add_x86_64.h"
+#endif
 
 namespace ttmath {
 namespace detail {
@@ -59,13 +62,29 @@ inline bool Big<exp, man>::AddNormalised(const Big & ss2, bool round, bool addin
         if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
             return false;
 
+        const bool differ = ((info1 ^ info2) & TTMATH_BIG_SIGN) != 0;
+#ifdef TTMATH_ASM_X86_64
+        if constexpr (man == 4) {
+            static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+            uint * first = exponent.table;
+            const uint * second = ss2.exponent.table;
+            bool done;
+            if (differ)
+                done = round ? x86_64_add::difference<true>(first, second) : x86_64_add::difference<false>(first, second);
+            else
+                done = round ? x86_64_add::sum<true>(first, second) : x86_64_add::sum<false>(first, second);
+            if (!done)
+                return false;
+            rc = IsNan() ? 1 : 0;
+            return true;
+        }
+#endif
         const uint e1 = exponent.table[0], e2 = ss2.exponent.table[0];
         const uint diff = e1 - e2;
         // The true difference must fit a signed word: it does not when the exponents'
         // signs differ and the wrapped difference has the second one's sign.
         if (static_cast<sint>((e1 ^ e2) & (e1 ^ diff)) < 0)
             return false;
-        const bool differ = ((info1 ^ info2) & TTMATH_BIG_SIGN) != 0;
         bool swapped = static_cast<sint>(diff) < 0;
         if (diff == 0 && differ) // a sum is symmetric; a difference needs the larger first
             swapped = words::compare(a, b, man) < 0;
@@ -78,24 +97,23 @@ inline bool Big<exp, man>::AddNormalised(const Big & ss2, bool round, bool addin
 
         uint r[man];
         uint e, c;
+        unsigned char sign;
         if (!differ) {
+            sign = info1 & TTMATH_BIG_SIGN;
             e = large_exponent + aligned::sum<man>(r, large, small, static_cast<unsigned>(d), round);
             c = static_cast<sint>(e) < static_cast<sint>(large_exponent); // passed the top
         } else {
-            aligned::difference<man>(r, large, small, static_cast<unsigned>(d), round);
-            if (r[man - 1] == 0)
+            sign = (swapped ? info2 : info1) & TTMATH_BIG_SIGN;
+            const unsigned z = aligned::difference<man>(r, large, small, static_cast<unsigned>(d), round);
+            if (z >= words::bits_per_word)
                 return false; // cancellation of a word or more
-            const unsigned z = words::clz(r[man - 1]);
-            for (std::size_t i = man - 1; i > 0; --i)
-                r[i] = words::shl_pair(r[i], r[i - 1], z);
-            r[0] <<= z;
             e = large_exponent - z;
             c = static_cast<sint>(e) > static_cast<sint>(large_exponent); // passed the bottom
         }
 
         exponent.table[0] = e;
         words::copy(mantissa.table, r, man);
-        info = static_cast<unsigned char>(((swapped ? info2 : info1) & TTMATH_BIG_SIGN) | (c ? TTMATH_BIG_NAN : 0));
+        info = static_cast<unsigned char>(sign | (c ? TTMATH_BIG_NAN : 0));
         rc = c;
         return true;
     }

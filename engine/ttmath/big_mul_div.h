@@ -8,14 +8,68 @@
 #ifndef TTMATH_BIG_MUL_DIV_H
 #define TTMATH_BIG_MUL_DIV_H
 
+#include "high_half.h"
+
 namespace ttmath {
 
+namespace detail {
+
+// x + y wrapping, recording in `overflow` whether the signed sum left the word's range.
+inline uint AddSigned(uint x, uint y, bool & overflow)
+{
+    const uint sum = x + y;
+    overflow |= static_cast<sint>((x ^ sum) & (y ^ sum)) < 0;
+    return sum;
+}
+
+} // namespace detail
+
+// The common case of Mul for a one-word exponent: two normalised values with no flag
+// but the sign. The product's leading bit is then one of its top two bits, and
+// high_half.h normalises and rounds it without branches. It computes exactly what the
+// general algorithm computes, exponent steps and carries included. Returns false,
+// changing nothing, for any other operands.
 template<uint exp, uint man>
-uint Big<exp, man>::Mul(const Big & ss2_, bool round)
+inline bool Big<exp, man>::MulNormalised(const Big & ss2, bool round, uint & rc)
+{
+    if constexpr (exp != 1) {
+        (void)ss2, (void)round, (void)rc;
+        return false;
+    } else {
+        const unsigned char info1 = info, info2 = ss2.info;
+        const uint * a = mantissa.table;
+        const uint * b = ss2.mantissa.table;
+        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
+            return false;
+        const uint e2 = ss2.exponent.table[0];
+
+        uint p[2 * man];
+        product::full<man>(p, a, b);
+        uint m[man];
+        uint carry;
+        const unsigned shift = high_half::rounded<man>(m, p, round, carry);
+
+        // the exponent steps of the general algorithm, each checked
+        bool overflow = false;
+        uint e = detail::AddSigned(exponent.table[0], mantissa_bits - shift, overflow);
+        e = detail::AddSigned(e, e2, overflow);
+        e = detail::AddSigned(e, carry, overflow);
+
+        exponent.table[0] = e;
+        words::copy(mantissa.table, m, man);
+        info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
+        rc = overflow ? 1 : 0;
+        return true;
+    }
+}
+
+// The algorithm for every input.
+template<uint exp, uint man>
+TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
 {
     if (this == &ss2_) {
         Big copy(ss2_);
-        return Mul(copy, round);
+        return MulGeneral(copy, round);
     }
     const Big & ss2 = ss2_;
 

@@ -10,6 +10,20 @@
 namespace ttmath {
 namespace x86_64_kernels {
 
+// An assembly statement that reads n words through a pointer names them as a memory
+// operand of this type, so that the compiler has stored them before and knows that
+// nothing else is read or written.
+template<std::size_t n>
+struct word_block {
+    uint w[n];
+};
+
+template<std::size_t n>
+inline const word_block<n> & words_at(const uint * p)
+{
+    return *reinterpret_cast<const word_block<n> *>(p);
+}
+
 // hi:lo = a * b
 inline void mul_ww(uint a, uint b, uint & hi, uint & lo)
 {
@@ -323,123 +337,58 @@ inline void mul_4x4(uint * r, const uint * a, const uint * b)
         : "rax", "rdx", "cc", "memory");
 }
 
-// Loads the four words of `small` into s0 .. s3 shifted right by %cl bits (below 64),
-// and the bits shifted out into `lost`, from its top bit down.
-#define TTMATH_X86_64_LOAD_SHIFTED                                                          \
-    "movq 0(%[a]), %[s0]\n\t"                                                               \
-    "movq 8(%[a]), %[s1]\n\t"                                                               \
-    "movq 16(%[a]), %[s2]\n\t"                                                              \
-    "movq 24(%[a]), %[s3]\n\t"                                                              \
-    "xorl %k[lost], %k[lost]\n\t"                                                           \
-    "shrdq %%cl, %[s0], %[lost]\n\t"                                                        \
-    "shrdq %%cl, %[s1], %[s0]\n\t"                                                          \
-    "shrdq %%cl, %[s2], %[s1]\n\t"                                                          \
-    "shrdq %%cl, %[s3], %[s2]\n\t"                                                          \
-    "shrq %%cl, %[s3]\n\t"
-
-// Sets CF to the rounding step of half-to-even rounding: the carry out of
-// lost + (2^63 - 1) + (lowest kept bit), which is 1 exactly when the lost bits exceed
-// half a unit or equal it with the kept part odd. With round = 0 it adds nothing and
-// never carries. Uses t as scratch and `low` as the lowest kept word.
-#define TTMATH_X86_64_ROUNDING_CARRY(low, t, u)                                             \
-    "movq %[round], %[" #u "]\n\t"                                                          \
-    "shlq $63, %[" #u "]\n\t"                                                               \
-    "subq %[round], %[" #u "]\n\t"                                                          \
-    "movq %[" #low "], %[" #t "]\n\t"                                                       \
-    "andq %[round], %[" #t "]\n\t"                                                          \
-    "addq %[" #u "], %[" #t "]\n\t"                                                         \
-    "addq %[lost], %[" #t "]\n\t"
-
-// The sum of two four-word numbers with their top bits set, the second shifted right
-// by k bits (0 <= k < 64) first: r = big + small / 2^k, halved when it carries out of
-// four words, then rounded half to even on everything below r (round = 1) or truncated
-// (round = 0). A rounding that carries out leaves only the top bit. Returns the number
-// of halvings (0, 1 or 2), which the caller adds to the exponent. No branches: the
-// halving is a select.
-inline uint sum_shifted_4(uint * r, const uint * big, const uint * small, unsigned k, uint round)
+// The high half of an eight-word product p whose leading bit is one of its top two:
+// shifted left by i (0 or 1) so that its top bit is set, then rounded half to even on
+// the low half (round = 1) or truncated (round = 0). A rounding that carries out leaves
+// only the top bit and sets `carry`. Returns i. No branches: the shift is by a computed
+// count, and the rounding step is the carry out of below + (2^63 - 1) + (the rest of
+// the low half is non-zero or the kept part is odd), `below` being the low half's top
+// word.
+inline uint high_half_rounded_4(uint * m, const uint * p, uint round, uint & carry)
 {
-    uint s0, s1, s2, s3, lost, t0, t1, halved;
-    uint count = k;
-    const uint * a = small;
-    const uint * b = big;
-    __asm__(TTMATH_X86_64_LOAD_SHIFTED
-            "addq 0(%[b]), %[s0]\n\t"
-            "adcq 8(%[b]), %[s1]\n\t"
-            "adcq 16(%[b]), %[s2]\n\t"
-            "adcq 24(%[b]), %[s3]\n\t"
-            "sbbq %[halved], %[halved]\n\t" // all ones when the sum carried out
-            // the sum halved, the carry becoming its top bit
-            "movq %[lost], %[t0]\n\t"
-            "shrdq $1, %[s0], %[t0]\n\t"
-            "movq %[s0], %[t1]\n\t"
-            "shrdq $1, %[s1], %[t1]\n\t"
-            "movq %[s1], %[a]\n\t"
-            "shrdq $1, %[s2], %[a]\n\t"
-            "movq %[s2], %[b]\n\t"
-            "shrdq $1, %[s3], %[b]\n\t"
-            "movq %[s3], %[count]\n\t"
-            "shrdq $1, %[halved], %[count]\n\t"
-            "testq %[halved], %[halved]\n\t"
-            "cmovnzq %[t0], %[lost]\n\t"
-            "cmovnzq %[t1], %[s0]\n\t"
-            "cmovnzq %[a], %[s1]\n\t"
-            "cmovnzq %[b], %[s2]\n\t"
-            "cmovnzq %[count], %[s3]\n\t"
-            TTMATH_X86_64_ROUNDING_CARRY(s0, t0, t1)
-            "adcq $0, %[s0]\n\t"
-            "adcq $0, %[s1]\n\t"
-            "adcq $0, %[s2]\n\t"
-            "adcq $0, %[s3]\n\t"
-            "sbbq %[t1], %[t1]\n\t" // all ones when the rounding carried out
-            : [s0] "=&r"(s0), [s1] "=&r"(s1), [s2] "=&r"(s2), [s3] "=&r"(s3), [lost] "=&r"(lost),
-              [t0] "=&r"(t0), [t1] "=&r"(t1), [halved] "=&r"(halved), [count] "+&c"(count), [a] "+&r"(a),
-              [b] "+&r"(b)
-            : [round] "r"(round)
+    uint x2, x3, x4, x5, x6, x7, t, i;
+    __asm__("movq 56(%[p]), %[x7]\n\t"
+            "movq 48(%[p]), %[x6]\n\t"
+            "movq 40(%[p]), %[x5]\n\t"
+            "movq 32(%[p]), %[x4]\n\t"
+            "movq 24(%[p]), %[x3]\n\t"
+            "movq 16(%[p]), %[x2]\n\t"
+            "movq %[x7], %[i]\n\t"
+            "notq %[i]\n\t"
+            "shrq $63, %[i]\n\t"
+            "shldq %%cl, %[x6], %[x7]\n\t"
+            "shldq %%cl, %[x5], %[x6]\n\t"
+            "shldq %%cl, %[x4], %[x5]\n\t"
+            "shldq %%cl, %[x3], %[x4]\n\t"
+            "shldq %%cl, %[x2], %[x3]\n\t"
+            "shlq %%cl, %[x2]\n\t"
+            "orq 8(%[p]), %[x2]\n\t"
+            "orq 0(%[p]), %[x2]\n\t"
+            "movq %[x4], %[t]\n\t"
+            "andl $1, %k[t]\n\t"
+            "orq %[t], %[x2]\n\t"
+            "movq %[round], %[t]\n\t"
+            "negq %[t]\n\t"
+            "andq %[t], %[x2]\n\t"
+            "shrq $1, %[t]\n\t"
+            "negq %[x2]\n\t"
+            "adcq %[t], %[x3]\n\t"
+            "adcq $0, %[x4]\n\t"
+            "adcq $0, %[x5]\n\t"
+            "adcq $0, %[x6]\n\t"
+            "adcq $0, %[x7]\n\t"
+            "sbbq %[t], %[t]\n\t"
+            : [x2] "=&r"(x2), [x3] "=&r"(x3), [x4] "=&r"(x4), [x5] "=&r"(x5), [x6] "=&r"(x6), [x7] "=&r"(x7),
+              [t] "=&r"(t), [i] "=&c"(i)
+            : [p] "r"(p), [round] "r"(round), "m"(words_at<8>(p))
             : "cc");
-    // A carried-out rounding left all words zero; the value is the top bit alone.
-    r[0] = s0;
-    r[1] = s1;
-    r[2] = s2;
-    r[3] = s3 | (t1 << 63);
-    return (0 - halved) + (0 - t1);
+    m[0] = x4;
+    m[1] = x5;
+    m[2] = x6;
+    m[3] = x7 | (t << 63);
+    carry = t & 1;
+    return i;
 }
-
-// The difference of two four-word numbers, big >= small, the second shifted right by
-// k bits (0 <= k < 64) first: r = big - floor(small / 2^k), decremented when round = 1
-// and the bits shifted out exceed half a unit or equal it with r odd.
-inline void difference_shifted_4(uint * r, const uint * big, const uint * small, unsigned k, uint round)
-{
-    uint s0, s1, s2, s3, lost, x0, x1, x2, x3;
-    uint count = k;
-    const uint * a = small;
-    const uint * b = big;
-    __asm__(TTMATH_X86_64_LOAD_SHIFTED
-            "movq 0(%[b]), %[x0]\n\t"
-            "movq 8(%[b]), %[x1]\n\t"
-            "movq 16(%[b]), %[x2]\n\t"
-            "movq 24(%[b]), %[x3]\n\t"
-            "subq %[s0], %[x0]\n\t"
-            "sbbq %[s1], %[x1]\n\t"
-            "sbbq %[s2], %[x2]\n\t"
-            "sbbq %[s3], %[x3]\n\t"
-            TTMATH_X86_64_ROUNDING_CARRY(x0, s0, s1)
-            "sbbq $0, %[x0]\n\t"
-            "sbbq $0, %[x1]\n\t"
-            "sbbq $0, %[x2]\n\t"
-            "sbbq $0, %[x3]\n\t"
-            : [s0] "=&r"(s0), [s1] "=&r"(s1), [s2] "=&r"(s2), [s3] "=&r"(s3), [lost] "=&r"(lost),
-              [x0] "=&r"(x0), [x1] "=&r"(x1), [x2] "=&r"(x2), [x3] "=&r"(x3), [count] "+&c"(count),
-              [a] "+&r"(a), [b] "+&r"(b)
-            : [round] "r"(round)
-            : "cc");
-    r[0] = x0;
-    r[1] = x1;
-    r[2] = x2;
-    r[3] = x3;
-}
-
-#undef TTMATH_X86_64_LOAD_SHIFTED
-#undef TTMATH_X86_64_ROUNDING_CARRY
 
 inline const char * lib_type_str() { return "asm_gcc_64"; }
 inline LibTypeCode lib_type() { return asm_gcc_64; }
