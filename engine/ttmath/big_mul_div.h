@@ -9,6 +9,9 @@
 #define TTMATH_BIG_MUL_DIV_H
 
 #include "high_half.h"
+#ifdef TTMATH_ASM_X86_64
+#include "big_mul_x86_64.h"
+#endif
 
 namespace ttmath {
 
@@ -41,6 +44,19 @@ inline bool Big<exp, man>::MulNormalised(const Big & ss2, bool round, uint & rc)
         const uint * b = ss2.mantissa.table;
         if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
             return false;
+#ifdef TTMATH_ASM_X86_64
+        if constexpr (man == 4) {
+            if (x86_64_kernels::use_mulx_adx) {
+                static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+                if (round)
+                    x86_64_mul::product<true>(exponent.table, ss2.exponent.table);
+                else
+                    x86_64_mul::product<false>(exponent.table, ss2.exponent.table);
+                rc = IsNan() ? 1 : 0;
+                return true;
+            }
+        }
+#endif
         const uint e2 = ss2.exponent.table[0];
 
         uint p[2 * man];

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include "types.h"
+#include "cpu_x86_64.h"
 
 namespace ttmath {
 namespace x86_64_kernels {
@@ -388,6 +389,83 @@ inline uint high_half_rounded_4(uint * m, const uint * p, uint round, uint & car
     m[3] = x7 | (t << 63);
     carry = t & 1;
     return i;
+}
+
+// r[0 .. 8) = a[0 .. 4) * b[0 .. 4) with MULX, ADCX and ADOX (BMI2 and ADX): row by
+// row, the low halves of a row's products travel on the CF chain and the high halves
+// on the OF chain, so that the two chains run side by side. r must not overlap a or b.
+inline void mul_4x4_adx(uint * r, const uint * a, const uint * b)
+{
+    uint r0, r1, r2, r3, r4, r5, r6, r7, lo, hi, bj;
+    __asm__ volatile(
+        // row 0: r[0 .. 5) = a * b0
+        "movq 0(%[b]), %%rdx\n\t"
+        "mulxq 0(%[a]), %[r0], %[r1]\n\t"
+        "mulxq 8(%[a]), %[lo], %[r2]\n\t"
+        "addq %[lo], %[r1]\n\t"
+        "mulxq 16(%[a]), %[lo], %[r3]\n\t"
+        "adcq %[lo], %[r2]\n\t"
+        "mulxq 24(%[a]), %[lo], %[r4]\n\t"
+        "adcq %[lo], %[r3]\n\t"
+        "adcq $0, %[r4]\n\t"
+        "movq %[r0], 0(%[r])\n\t"
+        // rows 1 .. 3: r[j .. j + 5) += a * bj
+        "movq 8(%[b]), %%rdx\n\t"
+        "xorl %k[r5], %k[r5]\n\t" // clears CF and OF
+        "mulxq 0(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r1]\n\t"
+        "adoxq %[hi], %[r2]\n\t"
+        "mulxq 8(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r2]\n\t"
+        "adoxq %[hi], %[r3]\n\t"
+        "mulxq 16(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r3]\n\t"
+        "adoxq %[hi], %[r4]\n\t"
+        "mulxq 24(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r4]\n\t"
+        "adoxq %[r5], %[hi]\n\t" // r5 is zero
+        "adcxq %[hi], %[r5]\n\t"
+        "movq %[r1], 8(%[r])\n\t"
+        "movq 16(%[b]), %%rdx\n\t"
+        "xorl %k[r6], %k[r6]\n\t"
+        "mulxq 0(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r2]\n\t"
+        "adoxq %[hi], %[r3]\n\t"
+        "mulxq 8(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r3]\n\t"
+        "adoxq %[hi], %[r4]\n\t"
+        "mulxq 16(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r4]\n\t"
+        "adoxq %[hi], %[r5]\n\t"
+        "mulxq 24(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r5]\n\t"
+        "adoxq %[r6], %[hi]\n\t"
+        "adcxq %[hi], %[r6]\n\t"
+        "movq %[r2], 16(%[r])\n\t"
+        "movq 24(%[b]), %%rdx\n\t"
+        "xorl %k[r7], %k[r7]\n\t"
+        "mulxq 0(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r3]\n\t"
+        "adoxq %[hi], %[r4]\n\t"
+        "mulxq 8(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r4]\n\t"
+        "adoxq %[hi], %[r5]\n\t"
+        "mulxq 16(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r5]\n\t"
+        "adoxq %[hi], %[r6]\n\t"
+        "mulxq 24(%[a]), %[lo], %[hi]\n\t"
+        "adcxq %[lo], %[r6]\n\t"
+        "adoxq %[r7], %[hi]\n\t"
+        "adcxq %[hi], %[r7]\n\t"
+        "movq %[r3], 24(%[r])\n\t"
+        "movq %[r4], 32(%[r])\n\t"
+        "movq %[r5], 40(%[r])\n\t"
+        "movq %[r6], 48(%[r])\n\t"
+        "movq %[r7], 56(%[r])\n\t"
+        : [r0] "=&r"(r0), [r1] "=&r"(r1), [r2] "=&r"(r2), [r3] "=&r"(r3), [r4] "=&r"(r4), [r5] "=&r"(r5),
+          [r6] "=&r"(r6), [r7] "=&r"(r7), [lo] "=&r"(lo), [hi] "=&r"(hi), "=&d"(bj)
+        : [a] "r"(a), [b] "r"(b), [r] "r"(r)
+        : "cc", "memory");
 }
 
 inline const char * lib_type_str() { return "asm_gcc_64"; }
