@@ -239,7 +239,13 @@ public:
             return rc;
         return MulGeneral(ss2, round);
     }
-    uint Div(const Big & ss2, bool round = true);
+    uint Div(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (DivNormalised(ss2, round, rc))
+            return rc;
+        return DivGeneral(ss2, round);
+    }
     uint MulUInt(uint ss2);
     uint MulInt(sint ss2);
     uint Mod(const Big & ss2);
@@ -476,6 +482,8 @@ private:
     bool AddNormalised(const Big & ss2, bool round, bool adding, uint & rc);
     bool MulNormalised(const Big & ss2, bool round, uint & rc);
     uint MulGeneral(const Big & ss2, bool round);
+    bool DivNormalised(const Big & ss2, bool round, uint & rc);
+    uint DivGeneral(const Big & ss2, bool round);
     uint AddGeneral(Big ss2, bool round, bool adding);
 
     template<uint e2, uint m2> friend class Big;

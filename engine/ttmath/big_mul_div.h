@@ -25,6 +25,14 @@ inline uint AddSigned(uint x, uint y, bool & overflow)
     return sum;
 }
 
+// x - y wrapping, recording in `overflow` whether the signed difference left the range.
+inline uint SubSigned(uint x, uint y, bool & overflow)
+{
+    const uint difference = x - y;
+    overflow |= static_cast<sint>((x ^ y) & (x ^ difference)) < 0;
+    return difference;
+}
+
 } // namespace detail
 
 // The common case of Mul for a one-word exponent: two normalised values with no flag
@@ -127,12 +135,57 @@ TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
     return CheckCarry(c);
 }
 
+// The common case of Div for a one-word exponent: two normalised values with no flag
+// but the sign. The quotient of the mantissas then has N or N + 1 bits: it fits the
+// mantissa exactly, or its lowest bit is the rounding bit, taken as a tie whatever the
+// remainder. It computes exactly what the general algorithm computes, exponent steps
+// and carries included, without branching on the data. Returns false, changing
+// nothing, for any other operands.
 template<uint exp, uint man>
-uint Big<exp, man>::Div(const Big & ss2_, bool round)
+inline bool Big<exp, man>::DivNormalised(const Big & ss2, bool round, uint & rc)
+{
+    if constexpr (exp != 1 || man < 2) {
+        (void)ss2, (void)round, (void)rc;
+        return false;
+    } else {
+        const unsigned char info1 = info, info2 = ss2.info;
+        const uint * a = mantissa.table;
+        const uint * b = ss2.mantissa.table;
+        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
+            return false;
+        const uint e2 = ss2.exponent.table[0];
+
+        uint q[man + 1];
+        quotient::shifted_by_normalized<man>(q, a, b);
+        const unsigned extra = static_cast<unsigned>(q[man]); // the quotient has N + extra bits
+        uint m[man];
+        for (std::size_t i = 0; i < man; ++i)
+            m[i] = words::shr_pair(q[i + 1], q[i], extra);
+        const uint up = (round ? 1 : 0) & extra & q[0] & (q[0] >> 1);
+        const uint carry = fixed::add_carry<man>(m, up);
+        if (carry) // all ones rounded up: only the top bit is left
+            m[man - 1] = TTMATH_UINT_HIGHEST_BIT;
+
+        bool overflow = false;
+        uint e = detail::SubSigned(exponent.table[0], mantissa_bits - extra, overflow);
+        e = detail::SubSigned(e, e2, overflow);
+        e = detail::AddSigned(e, carry, overflow);
+
+        exponent.table[0] = e;
+        words::copy(mantissa.table, m, man);
+        info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
+        rc = overflow ? 1 : 0;
+        return true;
+    }
+}
+
+// The algorithm for every input.
+template<uint exp, uint man>
+TTMATH_NOINLINE uint Big<exp, man>::DivGeneral(const Big & ss2_, bool round)
 {
     if (this == &ss2_) {
         Big copy(ss2_);
-        return Div(copy, round);
+        return DivGeneral(copy, round);
     }
     const Big & ss2 = ss2_;
 

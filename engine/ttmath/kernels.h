@@ -85,6 +85,32 @@ inline uint sub_carry(uint * r, uint c)
     return c;
 }
 
+// Words at most this many are multiplied in C++ that the compiler unrolls and keeps in
+// registers; longer ones go to the back end's loop.
+const std::size_t unrolled_max_words = 4;
+
+// r -= a * b over n words known at compile time; returns the word borrowed from above.
+template<std::size_t n>
+inline uint submul_1(uint * r, const uint * a, uint b)
+{
+    if constexpr (n <= unrolled_max_words) {
+        uint carry = 0;
+        for (std::size_t i = 0; i < n; ++i) {
+            uint hi, lo;
+            kernel::mul_ww(a[i], b, hi, lo);
+            lo += carry;
+            hi += lo < carry;
+            const uint t = r[i];
+            r[i] = t - lo;
+            hi += t < lo;
+            carry = hi;
+        }
+        return carry;
+    } else {
+        return kernel::submul_1(r, a, n, b);
+    }
+}
+
 } // namespace fixed
 } // namespace ttmath
 
