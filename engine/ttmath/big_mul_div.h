@@ -17,20 +17,32 @@ namespace ttmath {
 
 namespace detail {
 
-// x + y wrapping, recording in `overflow` whether the signed sum left the word's range.
+// x + y and x - y wrapping, recording in `overflow` whether the signed result left the
+// word's range.
 inline uint AddSigned(uint x, uint y, bool & overflow)
 {
+#if defined(__GNUC__) || defined(__clang__)
+    sint r;
+    overflow |= __builtin_add_overflow(static_cast<sint>(x), static_cast<sint>(y), &r);
+    return static_cast<uint>(r);
+#else
     const uint sum = x + y;
     overflow |= static_cast<sint>((x ^ sum) & (y ^ sum)) < 0;
     return sum;
+#endif
 }
 
-// x - y wrapping, recording in `overflow` whether the signed difference left the range.
 inline uint SubSigned(uint x, uint y, bool & overflow)
 {
+#if defined(__GNUC__) || defined(__clang__)
+    sint r;
+    overflow |= __builtin_sub_overflow(static_cast<sint>(x), static_cast<sint>(y), &r);
+    return static_cast<uint>(r);
+#else
     const uint difference = x - y;
     overflow |= static_cast<sint>((x ^ y) & (x ^ difference)) < 0;
     return difference;
+#endif
 }
 
 } // namespace detail

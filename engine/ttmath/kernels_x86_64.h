@@ -7,6 +7,8 @@
 #include <cstddef>
 #include "types.h"
 #include "cpu_x86_64.h"
+#include "kernels_x86_64_adx.h"
+#include "kernels_x86_64_quotient.h"
 
 namespace ttmath {
 namespace x86_64_kernels {
@@ -23,6 +25,20 @@ template<std::size_t n>
 inline const word_block<n> & words_at(const uint * p)
 {
     return *reinterpret_cast<const word_block<n> *>(p);
+}
+
+// All ones when x >= y, else 0, always without a branch: for choices that follow the
+// data, which a branch would mispredict half the time.
+inline uint mask_at_least(uint x, uint y)
+{
+    uint mask;
+    __asm__("cmpq %[y], %[x]\n\t"
+            "sbbq %[m], %[m]\n\t"
+            "notq %[m]\n\t"
+            : [m] "=r"(mask)
+            : [x] "r"(x), [y] "rm"(y)
+            : "cc");
+    return mask;
 }
 
 // hi:lo = a * b
@@ -88,7 +104,7 @@ inline uint sub_n(uint * r, const uint * a, const uint * b, std::size_t n, uint 
 }
 
 // r = a * b over n words; returns the high word. r may alias a.
-inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
+inline uint mul_1_base(uint * r, const uint * a, std::size_t n, uint b)
 {
     uint carry = 0;
     if (n == 0)
@@ -113,7 +129,7 @@ inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
 }
 
 // r += a * b over n words; returns the word carried out of the top.
-inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
+inline uint addmul_1_base(uint * r, const uint * a, std::size_t n, uint b)
 {
     uint carry = 0;
     if (n == 0)
@@ -139,7 +155,7 @@ inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
 }
 
 // r -= a * b over n words; returns the word borrowed from above the top.
-inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
+inline uint submul_1_base(uint * r, const uint * a, std::size_t n, uint b)
 {
     uint carry = 0;
     if (n == 0)
@@ -162,6 +178,23 @@ inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
         : [a] "r"(a), [b] "r"(b), [r] "r"(r), [n] "r"(n)
         : "cc", "memory");
     return carry;
+}
+
+// The multiply-accumulate kernels: with MULX, ADCX and ADOX when the processor has
+// them (kernels_x86_64_adx.h), else the base loops above.
+inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    return use_mulx_adx ? mul_1_adx(r, a, n, b) : mul_1_base(r, a, n, b);
+}
+
+inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    return use_mulx_adx ? addmul_1_adx(r, a, n, b) : addmul_1_base(r, a, n, b);
+}
+
+inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    return use_mulx_adx ? submul_1_adx(r, a, n, b) : submul_1_base(r, a, n, b);
 }
 
 // Four-word carry chains, unrolled: the mantissa width of the 256-bit type.
@@ -389,83 +422,6 @@ inline uint high_half_rounded_4(uint * m, const uint * p, uint round, uint & car
     m[3] = x7 | (t << 63);
     carry = t & 1;
     return i;
-}
-
-// r[0 .. 8) = a[0 .. 4) * b[0 .. 4) with MULX, ADCX and ADOX (BMI2 and ADX): row by
-// row, the low halves of a row's products travel on the CF chain and the high halves
-// on the OF chain, so that the two chains run side by side. r must not overlap a or b.
-inline void mul_4x4_adx(uint * r, const uint * a, const uint * b)
-{
-    uint r0, r1, r2, r3, r4, r5, r6, r7, lo, hi, bj;
-    __asm__ volatile(
-        // row 0: r[0 .. 5) = a * b0
-        "movq 0(%[b]), %%rdx\n\t"
-        "mulxq 0(%[a]), %[r0], %[r1]\n\t"
-        "mulxq 8(%[a]), %[lo], %[r2]\n\t"
-        "addq %[lo], %[r1]\n\t"
-        "mulxq 16(%[a]), %[lo], %[r3]\n\t"
-        "adcq %[lo], %[r2]\n\t"
-        "mulxq 24(%[a]), %[lo], %[r4]\n\t"
-        "adcq %[lo], %[r3]\n\t"
-        "adcq $0, %[r4]\n\t"
-        "movq %[r0], 0(%[r])\n\t"
-        // rows 1 .. 3: r[j .. j + 5) += a * bj
-        "movq 8(%[b]), %%rdx\n\t"
-        "xorl %k[r5], %k[r5]\n\t" // clears CF and OF
-        "mulxq 0(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r1]\n\t"
-        "adoxq %[hi], %[r2]\n\t"
-        "mulxq 8(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r2]\n\t"
-        "adoxq %[hi], %[r3]\n\t"
-        "mulxq 16(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r3]\n\t"
-        "adoxq %[hi], %[r4]\n\t"
-        "mulxq 24(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r4]\n\t"
-        "adoxq %[r5], %[hi]\n\t" // r5 is zero
-        "adcxq %[hi], %[r5]\n\t"
-        "movq %[r1], 8(%[r])\n\t"
-        "movq 16(%[b]), %%rdx\n\t"
-        "xorl %k[r6], %k[r6]\n\t"
-        "mulxq 0(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r2]\n\t"
-        "adoxq %[hi], %[r3]\n\t"
-        "mulxq 8(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r3]\n\t"
-        "adoxq %[hi], %[r4]\n\t"
-        "mulxq 16(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r4]\n\t"
-        "adoxq %[hi], %[r5]\n\t"
-        "mulxq 24(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r5]\n\t"
-        "adoxq %[r6], %[hi]\n\t"
-        "adcxq %[hi], %[r6]\n\t"
-        "movq %[r2], 16(%[r])\n\t"
-        "movq 24(%[b]), %%rdx\n\t"
-        "xorl %k[r7], %k[r7]\n\t"
-        "mulxq 0(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r3]\n\t"
-        "adoxq %[hi], %[r4]\n\t"
-        "mulxq 8(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r4]\n\t"
-        "adoxq %[hi], %[r5]\n\t"
-        "mulxq 16(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r5]\n\t"
-        "adoxq %[hi], %[r6]\n\t"
-        "mulxq 24(%[a]), %[lo], %[hi]\n\t"
-        "adcxq %[lo], %[r6]\n\t"
-        "adoxq %[r7], %[hi]\n\t"
-        "adcxq %[hi], %[r7]\n\t"
-        "movq %[r3], 24(%[r])\n\t"
-        "movq %[r4], 32(%[r])\n\t"
-        "movq %[r5], 40(%[r])\n\t"
-        "movq %[r6], 48(%[r])\n\t"
-        "movq %[r7], 56(%[r])\n\t"
-        : [r0] "=&r"(r0), [r1] "=&r"(r1), [r2] "=&r"(r2), [r3] "=&r"(r3), [r4] "=&r"(r4), [r5] "=&r"(r5),
-          [r6] "=&r"(r6), [r7] "=&r"(r7), [lo] "=&r"(lo), [hi] "=&r"(hi), "=&d"(bj)
-        : [a] "r"(a), [b] "r"(b), [r] "r"(r)
-        : "cc", "memory");
 }
 
 inline const char * lib_type_str() { return "asm_gcc_64"; }

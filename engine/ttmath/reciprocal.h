@@ -25,14 +25,14 @@ inline uint of_pair(uint d1, uint d0)
     uint v = of_word(d1);
     uint p = d1 * v + d0;
     const uint wrapped = p < d0 ? 1 : 0;
-    const uint twice = wrapped & (p >= d1 ? 1 : 0);
+    const uint twice = wrapped & static_cast<uint>(p >= d1);
     v -= wrapped + twice;
     p -= (d1 & (0 - wrapped)) + (d1 & (0 - twice));
     uint t1, t0;
     kernel::mul_ww(v, d0, t1, t0);
     p += t1;
     const uint wrapped_again = p < t1 ? 1 : 0;
-    const uint at_least_d = (p > d1 || (p == d1 && t0 >= d0)) ? 1 : 0;
+    const uint at_least_d = static_cast<uint>(p > d1) | (static_cast<uint>(p == d1) & static_cast<uint>(t0 >= d0));
     v -= wrapped_again + (wrapped_again & at_least_d);
     return v;
 }
@@ -56,7 +56,7 @@ inline uint div_3by2(uint u2, uint u1, uint u0, uint d1, uint d0, uint v, uint &
     r1 -= d1 + borrow2;
     ++q1;
     // The candidate is one too large when r1 >= q0 (as likely as not): step back.
-    const uint back = 0 - (r1 >= q0 ? uint(1) : uint(0));
+    const uint back = kernel::mask_at_least(r1, q0);
     q1 += back;
     const uint add0 = d0 & back;
     r0 += add0;
