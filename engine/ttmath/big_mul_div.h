@@ -9,6 +9,7 @@
 #define TTMATH_BIG_MUL_DIV_H
 
 #include "high_half.h"
+#include "short_product.h"
 #ifdef TTMATH_ASM_X86_64
 #include "big_mul_x86_64.h"
 #endif
@@ -47,56 +48,65 @@ inline uint SubSigned(uint x, uint y, bool & overflow)
 
 } // namespace detail
 
-// The common case of Mul for a one-word exponent: two normalised values with no flag
-// but the sign. The product's leading bit is then one of its top two bits, and
-// high_half.h normalises and rounds it without branches. It computes exactly what the
+// The common case of Mul: two normalised values with no flag but the sign. The
+// product's leading bit is then one of its top two bits, and high_half.h normalises and
+// rounds it without branches; long mantissas form only the upper columns of the product
+// (short_product.h) unless those cannot decide the result. It computes exactly what the
 // general algorithm computes, exponent steps and carries included. Returns false,
 // changing nothing, for any other operands.
 template<uint exp, uint man>
 inline bool Big<exp, man>::MulNormalised(const Big & ss2, bool round, uint & rc)
 {
-    if constexpr (exp != 1) {
-        (void)ss2, (void)round, (void)rc;
+    const unsigned char info1 = info, info2 = ss2.info;
+    const uint * a = mantissa.table;
+    const uint * b = ss2.mantissa.table;
+    if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
         return false;
-    } else {
-        const unsigned char info1 = info, info2 = ss2.info;
-        const uint * a = mantissa.table;
-        const uint * b = ss2.mantissa.table;
-        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
-            return false;
 #ifdef TTMATH_ASM_X86_64
-        if constexpr (man == 4) {
-            if (x86_64_kernels::use_mulx_adx) {
-                static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
-                if (round)
-                    x86_64_mul::product<true>(exponent.table, ss2.exponent.table);
-                else
-                    x86_64_mul::product<false>(exponent.table, ss2.exponent.table);
-                rc = IsNan() ? 1 : 0;
-                return true;
-            }
+    if constexpr (exp == 1 && man == 4) {
+        if (x86_64_kernels::use_mulx_adx) {
+            static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+            if (round)
+                x86_64_mul::product<true>(exponent.table, ss2.exponent.table);
+            else
+                x86_64_mul::product<false>(exponent.table, ss2.exponent.table);
+            rc = IsNan() ? 1 : 0;
+            return true;
         }
+    }
 #endif
-        const uint e2 = ss2.exponent.table[0];
+    const Int<exp> e2(ss2.exponent); // (ss2 may be *this)
 
+    uint m[man];
+    uint carry;
+    unsigned shift;
+    bool done = false;
+    if constexpr (man >= short_product::min_words)
+        done = short_product::rounded_high_half<man>(m, a, b, round, shift, carry);
+    if (!done) {
         uint p[2 * man];
         product::full<man>(p, a, b);
-        uint m[man];
-        uint carry;
-        const unsigned shift = high_half::rounded<man>(m, p, round, carry);
-
-        // the exponent steps of the general algorithm, each checked
-        bool overflow = false;
-        uint e = detail::AddSigned(exponent.table[0], mantissa_bits - shift, overflow);
-        e = detail::AddSigned(e, e2, overflow);
-        e = detail::AddSigned(e, carry, overflow);
-
-        exponent.table[0] = e;
-        words::copy(mantissa.table, m, man);
-        info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
-        rc = overflow ? 1 : 0;
-        return true;
+        shift = high_half::rounded<man>(m, p, round, carry);
     }
+
+    // the exponent steps of the general algorithm, each checked
+    bool overflow = false;
+    if constexpr (exp == 1) {
+        uint e = detail::AddSigned(exponent.table[0], mantissa_bits - shift, overflow);
+        e = detail::AddSigned(e, e2.table[0], overflow);
+        e = detail::AddSigned(e, carry, overflow);
+        exponent.table[0] = e;
+    } else {
+        overflow = exponent.Add(ExponentFromWord(mantissa_bits - shift)) != 0;
+        overflow = (exponent.Add(e2) != 0) || overflow;
+        if (carry)
+            overflow = (exponent.AddOne() != 0) || overflow;
+    }
+
+    words::copy(mantissa.table, m, man);
+    info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
+    rc = overflow ? 1 : 0;
+    return true;
 }
 
 // The algorithm for every input.

@@ -54,6 +54,10 @@ inline uint sub(uint * r, const uint * a, const uint * b, uint c)
     return kernel::sub_n(r, a, b, n, c);
 }
 
+// Sizes up to this are handled by C++ that the compiler unrolls and keeps in registers
+// (without branches on the data); longer ones go to the back end's loops.
+const std::size_t unrolled_max_words = 4;
+
 // r += c and r -= c (c is 0 or 1) over a size known at compile time, without the
 // branches of an early exit; return the carry or borrow out.
 template<std::size_t n>
@@ -66,6 +70,10 @@ inline uint add_carry(uint * r, uint c)
     for (std::size_t i = 0; i < n; ++i) {
         r[i] += c;
         c = r[i] < c;
+        if constexpr (n > unrolled_max_words) {
+            if (c == 0) // long numbers: stop where the carry ends
+                break;
+        }
     }
     return c;
 }
@@ -84,10 +92,6 @@ inline uint sub_carry(uint * r, uint c)
     }
     return c;
 }
-
-// Words at most this many are multiplied in C++ that the compiler unrolls and keeps in
-// registers; longer ones go to the back end's loop.
-const std::size_t unrolled_max_words = 4;
 
 // r -= a * b over n words known at compile time; returns the word borrowed from above.
 template<std::size_t n>
