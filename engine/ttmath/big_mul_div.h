@@ -157,16 +157,16 @@ TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
     return CheckCarry(c);
 }
 
-// The common case of Div for a one-word exponent: two normalised values with no flag
-// but the sign. The quotient of the mantissas then has N or N + 1 bits: it fits the
-// mantissa exactly, or its lowest bit is the rounding bit, taken as a tie whatever the
-// remainder. It computes exactly what the general algorithm computes, exponent steps
-// and carries included, without branching on the data. Returns false, changing
-// nothing, for any other operands.
+// The common case of Div: two normalised values with no flag but the sign. The
+// quotient of the mantissas then has N or N + 1 bits: it fits the mantissa exactly, or
+// its lowest bit is the rounding bit, taken as a tie whatever the remainder. It computes
+// exactly what the general algorithm computes, exponent steps and carries included,
+// without branching on the data. Returns false, changing nothing, for any other
+// operands.
 template<uint exp, uint man>
 inline bool Big<exp, man>::DivNormalised(const Big & ss2, bool round, uint & rc)
 {
-    if constexpr (exp != 1 || man < 2) {
+    if constexpr (man < 2) {
         (void)ss2, (void)round, (void)rc;
         return false;
     } else {
@@ -175,7 +175,7 @@ inline bool Big<exp, man>::DivNormalised(const Big & ss2, bool round, uint & rc)
         const uint * b = ss2.mantissa.table;
         if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
             return false;
-        const uint e2 = ss2.exponent.table[0];
+        const Int<exp> e2(ss2.exponent); // (ss2 may be *this)
 
         uint q[man + 1];
         quotient::shifted_by_normalized<man>(q, a, b);
@@ -188,12 +188,20 @@ inline bool Big<exp, man>::DivNormalised(const Big & ss2, bool round, uint & rc)
         if (carry) // all ones rounded up: only the top bit is left
             m[man - 1] = TTMATH_UINT_HIGHEST_BIT;
 
+        // the exponent steps of the general algorithm, each checked
         bool overflow = false;
-        uint e = detail::SubSigned(exponent.table[0], mantissa_bits - extra, overflow);
-        e = detail::SubSigned(e, e2, overflow);
-        e = detail::AddSigned(e, carry, overflow);
+        if constexpr (exp == 1) {
+            uint e = detail::SubSigned(exponent.table[0], mantissa_bits - extra, overflow);
+            e = detail::SubSigned(e, e2.table[0], overflow);
+            e = detail::AddSigned(e, carry, overflow);
+            exponent.table[0] = e;
+        } else {
+            overflow = exponent.SubInt(mantissa_bits - extra) != 0;
+            overflow = (exponent.Sub(e2) != 0) || overflow;
+            if (carry)
+                overflow = (exponent.AddOne() != 0) || overflow;
+        }
 
-        exponent.table[0] = e;
         words::copy(mantissa.table, m, man);
         info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
         rc = overflow ? 1 : 0;

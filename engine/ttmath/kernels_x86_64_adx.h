@@ -29,23 +29,22 @@ const std::size_t adx_unroll = 4;
     "adoxq %[" #h_in "], %[lo]\n\t"                                                         \
     "adcxq " #off "(%[r],%%rcx,8), %[lo]\n\t"                                               \
     "movq %[lo], " #off "(%[r],%%rcx,8)\n\t"
-// r - t as ~(~r + t): the subtraction rides the CF chain as an addition, and the carry
-// out of ~r + t is the borrow of r - t.
+// r - t as r + ~t + 1: the subtraction rides the CF chain as an addition (started
+// with CF set for the + 1), and its carry out is 1 - borrow.
 #define TTMATH_ADX_SUBMUL_WORD(off, h_in, h_out)                                            \
     "mulxq " #off "(%[a],%%rcx,8), %[lo], %[" #h_out "]\n\t"                                \
     "adoxq %[" #h_in "], %[lo]\n\t"                                                         \
-    "movq " #off "(%[r],%%rcx,8), %[x]\n\t"                                                 \
-    "notq %[x]\n\t"                                                                         \
-    "adcxq %[lo], %[x]\n\t"                                                                 \
-    "notq %[x]\n\t"                                                                         \
-    "movq %[x], " #off "(%[r],%%rcx,8)\n\t"
+    "notq %[lo]\n\t"                                                                        \
+    "adcxq " #off "(%[r],%%rcx,8), %[lo]\n\t"                                               \
+    "movq %[lo], " #off "(%[r],%%rcx,8)\n\t"
 
-// The loop around a word macro. The head's words index back from a + head and r + head,
+// The loop around a word macro, after carry_in (which may set CF). The head's words index back from a + head and r + head,
 // the body's from a + n and r + n. Leaves the high half of the last product in h0 with
 // CF and OF still pending.
-#define TTMATH_ADX_LOOPS(word)                                                              \
+#define TTMATH_ADX_LOOPS(word, carry_in)                                                    \
     "movq %[head_count], %%rcx\n\t"                                                         \
     "xorl %k[h0], %k[h0]\n\t" /* also clears CF and OF */                                   \
+    carry_in                                                                                \
     "jmp 2f\n"                                                                              \
     "1:\n\t"                                                                                \
     word(0, h0, h1)                                                                         \
@@ -82,7 +81,7 @@ inline uint mul_1_adx(uint * r, const uint * a, std::size_t n, uint b)
     const uint * a_at = a + head;
     uint * r_at = r + head;
     uint h0, h1, lo, count;
-    __asm__ volatile(TTMATH_ADX_LOOPS(TTMATH_ADX_MUL_WORD)
+    __asm__ volatile(TTMATH_ADX_LOOPS(TTMATH_ADX_MUL_WORD, "")
                      "movl $0, %k[lo]\n\t"
                      "adcxq %[lo], %[h0]\n\t"
                      : TTMATH_ADX_OPERANDS);
@@ -96,7 +95,7 @@ inline uint addmul_1_adx(uint * r, const uint * a, std::size_t n, uint b)
     const uint * a_at = a + head;
     uint * r_at = r + head;
     uint h0, h1, lo, count;
-    __asm__ volatile(TTMATH_ADX_LOOPS(TTMATH_ADX_ADDMUL_WORD)
+    __asm__ volatile(TTMATH_ADX_LOOPS(TTMATH_ADX_ADDMUL_WORD, "")
                      "movl $0, %k[lo]\n\t"
                      "adoxq %[lo], %[h0]\n\t"
                      "adcxq %[lo], %[h0]\n\t"
@@ -110,12 +109,13 @@ inline uint submul_1_adx(uint * r, const uint * a, std::size_t n, uint b)
     const std::size_t head = n % adx_unroll;
     const uint * a_at = a + head;
     uint * r_at = r + head;
-    uint h0, h1, lo, count, x;
-    __asm__ volatile(TTMATH_ADX_LOOPS(TTMATH_ADX_SUBMUL_WORD)
+    uint h0, h1, lo, count;
+    __asm__ volatile(TTMATH_ADX_LOOPS(TTMATH_ADX_SUBMUL_WORD, "stc\n\t")
                      "movl $0, %k[lo]\n\t"
                      "adoxq %[lo], %[h0]\n\t"
+                     "cmc\n\t" // the borrow
                      "adcxq %[lo], %[h0]\n\t"
-                     : [x] "=&r"(x), TTMATH_ADX_OPERANDS);
+                     : TTMATH_ADX_OPERANDS);
     return h0;
 }
 
