@@ -78,8 +78,8 @@ inline bool Big<exp, man>::MulNormalised(const Big & ss2, bool round, uint & rc)
     const Int<exp> e2(ss2.exponent); // (ss2 may be *this)
 
     uint m[man];
-    uint carry;
-    unsigned shift;
+    uint carry = 0;
+    unsigned shift = 0;
     bool done = false;
     if constexpr (man >= short_product::min_words)
         done = short_product::rounded_high_half<man>(m, a, b, round, shift, carry);
