@@ -65,18 +65,32 @@ inline void product(uint * a, const uint * b)
         TTMATH_MUL_ROW(r2, r3, r4, r5, r6)
         "movq %c[m3](%[b]), %%rdx\n\t"
         TTMATH_MUL_ROW(r3, r4, r5, r6, r7)
-        // normalise: shift left by 1 unless the top bit is set
+        // normalise: shift left by 1 unless the top bit is set (rcx = 0 then, else all
+        // ones), as selects between the words and the words shifted by a constant
         "movq %[r7], %%rcx\n\t"
-        "notq %%rcx\n\t"
-        "shrq $63, %%rcx\n\t"
-        "shldq %%cl, %[r6], %[r7]\n\t"
-        "shldq %%cl, %[r5], %[r6]\n\t"
-        "shldq %%cl, %[r4], %[r5]\n\t"
-        "shldq %%cl, %[r3], %[r4]\n\t"
-        "shldq %%cl, %[r2], %[r3]\n\t"
-        "shlq %%cl, %[r2]\n\t"
-        // the exponent: + (256 - shift), then + the second exponent, each checked
-        "movl %[bits], %k[lo]\n\t"
+        "sarq $63, %%rcx\n\t"
+        "movq %[r7], %[r1]\n\t"
+        "shldq $1, %[r6], %[r1]\n\t"
+        "movq %[r6], %[lo]\n\t"
+        "shldq $1, %[r5], %[lo]\n\t"
+        "movq %[r5], %%rdx\n\t"
+        "shldq $1, %[r4], %%rdx\n\t"
+        "testq %%rcx, %%rcx\n\t"
+        "cmovzq %[r1], %[r7]\n\t"
+        "cmovzq %[lo], %[r6]\n\t"
+        "cmovzq %%rdx, %[r5]\n\t"
+        "movq %[r4], %[r1]\n\t"
+        "shldq $1, %[r3], %[r1]\n\t"
+        "movq %[r3], %[lo]\n\t"
+        "shldq $1, %[r2], %[lo]\n\t"
+        "leaq (%[r2],%[r2]), %%rdx\n\t"
+        "testq %%rcx, %%rcx\n\t"
+        "cmovzq %[r1], %[r4]\n\t"
+        "cmovzq %[lo], %[r3]\n\t"
+        "cmovzq %%rdx, %[r2]\n\t"
+        // the exponent: + (256 - shift) = 255 - rcx, then + the second exponent, each
+        // checked
+        "movl %[bits_less_one], %k[lo]\n\t"
         "subq %%rcx, %[lo]\n\t"
         "movq (%[a]), %[hi]\n\t"
         "addq %[lo], %[hi]\n\t"
@@ -134,7 +148,7 @@ inline void product(uint * a, const uint * b)
           [r6] "=&r"(r6), [r7] "=&r"(r7), [lo] "=&r"(lo), [hi] "=&c"(hi), "=&d"(multiplier)
         : [a] "r"(a), [b] "r"(b), [m0] "i"(mantissa_offset), [m1] "i"(mantissa_offset + 8),
           [m2] "i"(mantissa_offset + 16), [m3] "i"(mantissa_offset + 24), [inf] "i"(info_offset),
-          [nan] "i"(TTMATH_BIG_NAN), [sign] "i"(TTMATH_BIG_SIGN), [bits] "i"(mantissa_bits), [round] "i"(round ? 1 : 0)
+          [nan] "i"(TTMATH_BIG_NAN), [sign] "i"(TTMATH_BIG_SIGN), [bits_less_one] "i"(mantissa_bits - 1), [round] "i"(round ? 1 : 0)
         : "cc", "memory");
 }
 
