@@ -11,6 +11,7 @@
 #include "high_half.h"
 #include "short_product.h"
 #ifdef TTMATH_ASM_X86_64
+#include "big_div_x86_64.h"
 #include "big_mul_x86_64.h"
 #endif
 
@@ -175,6 +176,17 @@ inline bool Big<exp, man>::DivNormalised(const Big & ss2, bool round, uint & rc)
         const uint * b = ss2.mantissa.table;
         if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
             return false;
+#ifdef TTMATH_ASM_X86_64
+        if constexpr (exp == 1 && man == 4) {
+            static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+            const bool done = round ? x86_64_div::quotient<true>(mantissa.table, ss2.mantissa.table)
+                                    : x86_64_div::quotient<false>(mantissa.table, ss2.mantissa.table);
+            if (done) {
+                rc = IsNan() ? 1 : 0;
+                return true;
+            }
+        }
+#endif
         const Int<exp> e2(ss2.exponent); // (ss2 may be *this)
 
         uint q[man + 1];

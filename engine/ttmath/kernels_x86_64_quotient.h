@@ -87,86 +87,89 @@ namespace x86_64_kernels {
     "adcq 24(%[d]), %[" #R2 "]\n\t"                                                         \
     "jmp 1" #j "4b\n"
 
+// The whole quotient: q[0 .. 4] for the dividend at a and the divisor at d, the
+// remainder left in r0 .. r3. Ends at label 19; leaves for `general` as above.
+#define TTMATH_QUOTIENT_4                                                             \
+        "movq 0(%[a]), %[r0]\n\t"                                                     \
+        "movq 8(%[a]), %[r1]\n\t"                                                     \
+        "movq 16(%[a]), %[r2]\n\t"                                                    \
+        "movq 24(%[a]), %[r3]\n\t"                                                    \
+        /* q4 = (a >= d), and then the remainder a - d, selected */                    \
+        "movq %[r0], %[x]\n\t"                                                        \
+        "subq 0(%[d]), %[x]\n\t"                                                      \
+        "movq %[r1], %[y]\n\t"                                                        \
+        "sbbq 8(%[d]), %[y]\n\t"                                                      \
+        "movq %[r2], %%rax\n\t"                                                       \
+        "sbbq 16(%[d]), %%rax\n\t"                                                    \
+        "movq %[r3], %%rdx\n\t"                                                       \
+        "sbbq 24(%[d]), %%rdx\n\t"                                                    \
+        "cmovncq %[x], %[r0]\n\t"                                                     \
+        "cmovncq %[y], %[r1]\n\t"                                                     \
+        "cmovncq %%rax, %[r2]\n\t"                                                    \
+        "cmovncq %%rdx, %[r3]\n\t"                                                    \
+        "setnc %b[x]\n\t"                                                             \
+        "movzbl %b[x], %k[x]\n\t"                                                     \
+        "movq %[x], 32(%[q])\n\t"                                                     \
+        /* v = floor((β^3 - 1) / (d3:d2)) - β: the reciprocal of d3, corrected for d2 */ \
+        "movq 24(%[d]), %%rdx\n\t"                                                    \
+        "notq %%rdx\n\t"                                                              \
+        "movq $-1, %%rax\n\t"                                                         \
+        "divq 24(%[d])\n\t"                                                           \
+        "movq %%rax, %[v]\n\t"                                                        \
+        "movq 24(%[d]), %[x]\n\t"                                                     \
+        "imulq %[v], %[x]\n\t"                                                        \
+        "addq 16(%[d]), %[x]\n\t" /* p = d3 v + d2, CF when it wrapped */              \
+        "sbbq %[y], %[y]\n\t"                                                         \
+        "cmpq 24(%[d]), %[x]\n\t"                                                     \
+        "sbbq %%rax, %%rax\n\t"                                                       \
+        "notq %%rax\n\t"                                                              \
+        "andq %[y], %%rax\n\t" /* wrapped and p >= d3: twice */                        \
+        "addq %[y], %[v]\n\t"                                                         \
+        "addq %%rax, %[v]\n\t"                                                        \
+        "andq 24(%[d]), %[y]\n\t"                                                     \
+        "andq 24(%[d]), %%rax\n\t"                                                    \
+        "subq %[y], %[x]\n\t"                                                         \
+        "subq %%rax, %[x]\n\t"                                                        \
+        "movq %[v], %%rax\n\t"                                                        \
+        "mulq 16(%[d])\n\t"                                                           \
+        "addq %%rdx, %[x]\n\t" /* p += high(v d2), CF when it wrapped */               \
+        "sbbq %[y], %[y]\n\t"                                                         \
+        "cmpq 16(%[d]), %%rax\n\t"                                                    \
+        "movq %[x], %%rdx\n\t"                                                        \
+        "sbbq 24(%[d]), %%rdx\n\t" /* CF: (p : low(v d2)) < (d3 : d2) */               \
+        "sbbq %%rax, %%rax\n\t"                                                       \
+        "notq %%rax\n\t"                                                              \
+        "andq %[y], %%rax\n\t"                                                        \
+        "addq %[y], %[v]\n\t"                                                         \
+        "addq %%rax, %[v]\n\t"                                                        \
+        TTMATH_QUOTIENT_STEP(3, r3, r2, r1, r0)                                       \
+        TTMATH_QUOTIENT_STEP(2, r2, r1, r0, r3)                                       \
+        TTMATH_QUOTIENT_STEP(1, r1, r0, r3, r2)                                       \
+        TTMATH_QUOTIENT_STEP(0, r0, r3, r2, r1)                                       \
+        "jmp 19f\n"                                                                   \
+        TTMATH_QUOTIENT_STEP_RARE(3, r3, r2, r1, r0)                                  \
+        TTMATH_QUOTIENT_STEP_RARE(2, r2, r1, r0, r3)                                  \
+        TTMATH_QUOTIENT_STEP_RARE(1, r1, r0, r3, r2)                                  \
+        TTMATH_QUOTIENT_STEP_RARE(0, r0, r3, r2, r1)                                  \
+        "19:\n\t"
+
 // Returns false when a step met the rare case its estimate cannot serve; q is then
 // incomplete and the caller computes it with the general code.
 inline bool shifted_quotient_4(uint * q, const uint * a, const uint * d)
 {
     uint r0, r1, r2, r3, v, x, y, rax, rdx;
-    __asm__ volatile goto(
-        "movq 0(%[a]), %[r0]\n\t"
-        "movq 8(%[a]), %[r1]\n\t"
-        "movq 16(%[a]), %[r2]\n\t"
-        "movq 24(%[a]), %[r3]\n\t"
-        // q4 = (a >= d), and then the remainder a - d, selected
-        "movq %[r0], %[x]\n\t"
-        "subq 0(%[d]), %[x]\n\t"
-        "movq %[r1], %[y]\n\t"
-        "sbbq 8(%[d]), %[y]\n\t"
-        "movq %[r2], %%rax\n\t"
-        "sbbq 16(%[d]), %%rax\n\t"
-        "movq %[r3], %%rdx\n\t"
-        "sbbq 24(%[d]), %%rdx\n\t"
-        "cmovncq %[x], %[r0]\n\t"
-        "cmovncq %[y], %[r1]\n\t"
-        "cmovncq %%rax, %[r2]\n\t"
-        "cmovncq %%rdx, %[r3]\n\t"
-        "setnc %b[x]\n\t"
-        "movzbl %b[x], %k[x]\n\t"
-        "movq %[x], 32(%[q])\n\t"
-        // v = floor((β^3 - 1) / (d3:d2)) - β: the reciprocal of d3, corrected for d2
-        "movq 24(%[d]), %%rdx\n\t"
-        "notq %%rdx\n\t"
-        "movq $-1, %%rax\n\t"
-        "divq 24(%[d])\n\t"
-        "movq %%rax, %[v]\n\t"
-        "movq 24(%[d]), %[x]\n\t"
-        "imulq %[v], %[x]\n\t"
-        "addq 16(%[d]), %[x]\n\t" // p = d3 v + d2, CF when it wrapped
-        "sbbq %[y], %[y]\n\t"
-        "cmpq 24(%[d]), %[x]\n\t"
-        "sbbq %%rax, %%rax\n\t"
-        "notq %%rax\n\t"
-        "andq %[y], %%rax\n\t" // wrapped and p >= d3: twice
-        "addq %[y], %[v]\n\t"
-        "addq %%rax, %[v]\n\t"
-        "andq 24(%[d]), %[y]\n\t"
-        "andq 24(%[d]), %%rax\n\t"
-        "subq %[y], %[x]\n\t"
-        "subq %%rax, %[x]\n\t"
-        "movq %[v], %%rax\n\t"
-        "mulq 16(%[d])\n\t"
-        "addq %%rdx, %[x]\n\t" // p += high(v d2), CF when it wrapped
-        "sbbq %[y], %[y]\n\t"
-        "cmpq 16(%[d]), %%rax\n\t"
-        "movq %[x], %%rdx\n\t"
-        "sbbq 24(%[d]), %%rdx\n\t" // CF: (p : low(v d2)) < (d3 : d2)
-        "sbbq %%rax, %%rax\n\t"
-        "notq %%rax\n\t"
-        "andq %[y], %%rax\n\t"
-        "addq %[y], %[v]\n\t"
-        "addq %%rax, %[v]\n\t"
-        TTMATH_QUOTIENT_STEP(3, r3, r2, r1, r0)
-        TTMATH_QUOTIENT_STEP(2, r2, r1, r0, r3)
-        TTMATH_QUOTIENT_STEP(1, r1, r0, r3, r2)
-        TTMATH_QUOTIENT_STEP(0, r0, r3, r2, r1)
-        "jmp 19f\n"
-        TTMATH_QUOTIENT_STEP_RARE(3, r3, r2, r1, r0)
-        TTMATH_QUOTIENT_STEP_RARE(2, r2, r1, r0, r3)
-        TTMATH_QUOTIENT_STEP_RARE(1, r1, r0, r3, r2)
-        TTMATH_QUOTIENT_STEP_RARE(0, r0, r3, r2, r1)
-        "19:\n\t"
-        : [r0] "=&r"(r0), [r1] "=&r"(r1), [r2] "=&r"(r2), [r3] "=&r"(r3), [v] "=&r"(v), [x] "=&r"(x),
-          [y] "=&r"(y), "=&a"(rax), "=&d"(rdx)
-        : [q] "r"(q), [a] "r"(a), [d] "r"(d)
-        : "cc", "memory"
-        : general);
+    __asm__ volatile goto(TTMATH_QUOTIENT_4
+                          : [r0] "=&r"(r0), [r1] "=&r"(r1), [r2] "=&r"(r2), [r3] "=&r"(r3), [v] "=&r"(v),
+                            [x] "=&r"(x), [y] "=&r"(y), "=&a"(rax), "=&d"(rdx)
+                          : [q] "r"(q), [a] "r"(a), [d] "r"(d)
+                          : "cc", "memory"
+                          : general);
     return true;
 general:
     return false;
 }
 
-#undef TTMATH_QUOTIENT_STEP
-#undef TTMATH_QUOTIENT_STEP_RARE
+// The step macros stay defined for the 256-bit Div (big_div_x86_64.h).
 
 } // namespace x86_64_kernels
 } // namespace ttmath
