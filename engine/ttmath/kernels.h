@@ -4,7 +4,10 @@
 //   mul_ww, div_ww          one word times one word, two words divided by one
 //   add_n, sub_n            carry chains over n words
 //   mul_1, addmul_1, submul_1   n words times one word (stored, added, subtracted)
+//   mask_at_least           a comparison as a mask, never as a branch
 //   lib_type_str, lib_type  the back end's name and code
+// and `ttmath::fixed` has carry chains and a multiply-subtract for sizes known at
+// compile time.
 #ifndef TTMATH_KERNELS_H
 #define TTMATH_KERNELS_H
 

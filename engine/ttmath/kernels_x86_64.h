@@ -1,6 +1,8 @@
 // Word kernels for x86-64 in GCC/Clang inline assembly: the carry chains and the
 // multiply-accumulate loops that every mantissa operation runs through. Results are
-// identical to the portable kernels.
+// identical to the portable kernels. The multiply-accumulate loops and the four-word
+// product use MULX, ADCX and ADOX when the processor has them (kernels_x86_64_adx.h,
+// chosen at run time); the loops here run on every x86-64 processor.
 #ifndef TTMATH_KERNELS_X86_64_H
 #define TTMATH_KERNELS_X86_64_H
 
