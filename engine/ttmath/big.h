@@ -12,6 +12,9 @@
 #ifndef TTMATH_BIG_H
 #define TTMATH_BIG_H
 
+#include <string>
+
+#include "conv.h"
 #include "int.h"
 #include "uint.h"
 
@@ -239,6 +242,7 @@ public:
             return rc;
         return MulGeneral(ss2, round);
     }
+    uint MulOneWord(const Big & ss2, bool round = true); // big_mul_one_word.h
     uint Div(const Big & ss2, bool round = true)
     {
         uint rc;
@@ -433,6 +437,20 @@ public:
         ToUInt(r);
         return r;
     }
+
+    // ---- text (big_to_string.h, big_from_string.h) -----------------------------------
+    uint ToString(std::string & result, const Conv & conv) const;
+    uint ToString(std::string & result, uint base = 10, bool scient = false, sint scient_from = 15,
+                  sint round = -1, bool trim_zeroes = true, char comma = '.') const;
+    std::string ToString(const Conv & conv) const;
+    std::string ToString(uint base = 10) const;
+
+    uint FromString(const char * source, const Conv & conv, const char ** after_source = 0, bool * value_read = 0);
+    uint FromString(const char * source, uint base = 10, const char ** after_source = 0, bool * value_read = 0);
+    uint FromString(const std::string & string, const Conv & conv, const char ** after_source = 0,
+                    bool * value_read = 0);
+    uint FromString(const std::string & string, uint base = 10, const char ** after_source = 0,
+                    bool * value_read = 0);
 
 private:
     // The zero form when the mantissa is zero (returns true); otherwise clears the

@@ -9,6 +9,9 @@
 #include "uint.h"
 #include "int.h"
 #include "big.h"
+#include "big_mul_one_word.h"
+#include "big_to_string.h"
+#include "big_from_string.h"
 #include "basic_functions.h"
 #include "angles.h"
 
