@@ -17,7 +17,8 @@ using ttmath::uint;
 
 // Operand pairs cycled through. A branch predictor can learn the outcomes of a cycle this
 // short, which favours code that branches on the data; with a pool of a thousand pairs
-// MPFR's 256-bit add, mul and div take 15-25% longer, while operands still fit the cache.
+// MPFR's 256-bit add, mul and div take about 15-30% longer, while operands still fit the
+// cache.
 const std::size_t pool_size = 32;
 const int exponent_spread = 8;    // operands lie in [2^-8, 2^8)
 
