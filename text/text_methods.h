@@ -138,9 +138,9 @@ struct TextMethods {
         });
     }
 
-    // A new number read from decimal text. A text the library cannot read is reported
-    // as the constructor's failure; the caller then sees only the exception, so nothing
-    // is handed back.
+    // A new number read from decimal text. A value beyond the exponent range is reported
+    // as the constructor's failure, and the object is still handed back with what the
+    // parse left in it; a host that sees the exception drops it.
     static REALobject NumberWithString(REALstring text)
     {
         return Guarded([&]() -> REALobject {
@@ -156,10 +156,8 @@ struct TextMethods {
     static REALobject NumberFromText(rbText & utf8)
     {
         Value value = N::ZeroWithNan();
-        if (value.FromString(utf8.GetUTF8(), ttmath::Conv())) {
+        if (value.FromString(utf8.GetUTF8(), ttmath::Conv()))
             RaiseOverflowException(kConstructorOperation);
-            return nullptr;
-        }
         return N::NewBigNumberZQT(value);
     }
 
