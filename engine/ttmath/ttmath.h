@@ -11,5 +11,8 @@
 #include "big.h"
 #include "basic_functions.h"
 #include "angles.h"
+#include "functions_exp_log.h"
+#include "functions_power.h"
+#include "trig_reduction.h"
 
 #endif

@@ -3,6 +3,7 @@
 #define GOLDEN_HANDLERS_H
 
 #include "exact_ops.h"
+#include "function_ops.h"
 
 namespace golden {
 
@@ -11,7 +12,7 @@ const HandlerMap & AllHandlers()
 {
     static const HandlerMap all = [] {
         HandlerMap m;
-        for (const HandlerMap * family : {&ExactOps<Big>::Table()})
+        for (const HandlerMap * family : {&ExactOps<Big>::Table(), &FunctionOps<Big>::Table()})
             m.insert(family->begin(), family->end());
         return m;
     }();
