@@ -120,7 +120,7 @@ uint PowOfArguments(Big<exp, man> & result, const Argument<exp, man> & x, const 
     if (y_integer && !y.neg && ye <= static_cast<sint>(word_bits)) {
         uint yv = y.m[man - 1] >> (word_bits - static_cast<std::size_t>(ye));
         const std::size_t exact_words = man + 2;
-        if (yv * odd.bits <= (exact_words - 1) * word_bits) {
+        if (yv <= (exact_words - 1) * word_bits && yv * odd.bits <= (exact_words - 1) * word_bits) {
             Float base, acc;
             base.SetWords(odd.m, man, 0, exact_words);
             acc.SetOne(exact_words);
@@ -134,11 +134,9 @@ uint PowOfArguments(Big<exp, man> & result, const Argument<exp, man> & x, const 
             }
             Rounded<man> r = RoundNearest<man>(acc.w, exact_words, acc.e);
             // x^y = odd^y 2^(shift y); the exponent fits one word more than the type's
-            Offset off(odd.shift);
-            Offset scaled;
-            scaled.SetZero();
-            for (uint k = 0; k < yv; ++k)
-                scaled.Add(off);
+            // (two's complement products wrap correctly; the value fits)
+            Offset scaled(odd.shift);
+            scaled.MulInt(yv);
             return StoreRounded(result, r, negative, scaled);
         }
     }

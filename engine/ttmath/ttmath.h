@@ -13,6 +13,6 @@
 #include "angles.h"
 #include "functions_exp_log.h"
 #include "functions_power.h"
-#include "trig_reduction.h"
+#include "functions_trig.h"
 
 #endif

@@ -116,13 +116,11 @@ struct WideFloat {
     {
         if (words > n) {
             std::size_t d = words - n;
-            for (std::size_t i = n; i-- > 0;)
-                w[i + d] = w[i];
+            std::memmove(w + d, w, n * sizeof(uint));
             words::fill(w, d, 0);
         } else if (words < n) {
             std::size_t d = n - words;
-            for (std::size_t i = 0; i < words; ++i)
-                w[i] = w[i + d];
+            std::memmove(w, w + d, words * sizeof(uint));
         }
         n = words;
     }

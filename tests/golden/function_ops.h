@@ -232,6 +232,10 @@ struct FunctionOps {
             {"ln", &Judge<&Unary<&ttmath::Ln<Big>>>},
             {"log", &Judge<&Log>},
             {"exp", &Judge<&Unary<&ttmath::Exp<Big>>>},
+            {"sin", &Judge<&UnaryByValue<&ttmath::Sin<Big>>>},
+            {"cos", &Judge<&UnaryByValue<&ttmath::Cos<Big>>>},
+            {"tan", &Judge<&Unary<&ttmath::Tan<Big>>>},
+            {"cot", &Judge<&Unary<&ttmath::Cot<Big>>>},
         };
         return table;
     }
