@@ -78,11 +78,13 @@ struct Argument {
         x.SetWords(m, man, -static_cast<sint>(man * word_bits), n);
     }
 
-    bool IsOne() const
+    // |value| == 1
+    bool IsOneMagnitude() const
     {
-        return !zero && !neg && CompareLead(1) == 0 && m[man - 1] == TTMATH_UINT_HIGHEST_BIT &&
-               words::is_zero(m, man - 1);
+        return !zero && CompareLead(1) == 0 && m[man - 1] == TTMATH_UINT_HIGHEST_BIT && words::is_zero(m, man - 1);
     }
+
+    bool IsOne() const { return !neg && IsOneMagnitude(); }
 };
 
 // A signed integer of `count` words (two's complement) as a working number of n words;

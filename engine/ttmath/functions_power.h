@@ -204,20 +204,6 @@ uint Big<exp, man>::Pow(const Big & pow)
         SetZero();
         return 0;
     }
-    if (x.zero) {
-        // a zero mantissa without the zero flag: its powers are 0, its negative powers
-        // divide by zero
-        if (y.neg) {
-            SetNan();
-            return 1;
-        }
-        if (y.zero) {
-            SetOne();
-            return 0;
-        }
-        SetZero();
-        return 0;
-    }
     if (y.zero) {
         SetOne();
         return 0;
@@ -234,6 +220,20 @@ uint Big<exp, man>::Pow(const Big & pow)
             return 2;
         }
         negative = pow.Mod2() != 0;
+    }
+    if (x.zero) {
+        // a zero mantissa without the zero flag: its powers are 0, its negative powers
+        // divide by zero
+        if (y.neg) {
+            SetNan();
+            return 1;
+        }
+        if (y.zero) {
+            SetOne();
+            return 0;
+        }
+        SetZero();
+        return 0;
     }
     wide::Argument<exp, man> ax(x);
     ax.neg = false;

@@ -14,5 +14,6 @@
 #include "functions_exp_log.h"
 #include "functions_power.h"
 #include "functions_trig.h"
+#include "functions_inverse_trig.h"
 
 #endif

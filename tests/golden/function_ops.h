@@ -236,6 +236,10 @@ struct FunctionOps {
             {"cos", &Judge<&UnaryByValue<&ttmath::Cos<Big>>>},
             {"tan", &Judge<&Unary<&ttmath::Tan<Big>>>},
             {"cot", &Judge<&Unary<&ttmath::Cot<Big>>>},
+            {"asin", &Judge<&UnaryByValue<&ttmath::ASin<Big>>>},
+            {"acos", &Judge<&Unary<&ttmath::ACos<Big>>>},
+            {"atan", &Judge<&NoCodeByValue<&ttmath::ATan<Big>>>},
+            {"acot", &Judge<&NoCode<&ttmath::ACot<Big>>>},
         };
         return table;
     }
