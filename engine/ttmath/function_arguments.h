@@ -78,6 +78,19 @@ struct Argument {
         x.SetWords(m, man, -static_cast<sint>(man * word_bits), n);
     }
 
+    // True when |value| lies within a factor 1 +- 2^-20 of 2^(64 exp - 1) ln 2, where e^x
+    // and e^-x leave the exponent range.
+    bool NearRangeEdge() const
+    {
+        const double ln2 = 0.6931471805599453;
+        const double band = 0x1p-20;
+        if (zero || CompareLead(static_cast<sint>(exp * word_bits) - 1) != 0)
+            return false;
+        // |value| / (2^lead ln 2) = m / ln 2 with m in [1/2, 1)
+        const double ratio = (static_cast<double>(m[man - 1]) * 0x1p-64) / ln2;
+        return ratio > 1.0 - band && ratio < 1.0 + band;
+    }
+
     // |value| == 1
     bool IsOneMagnitude() const
     {

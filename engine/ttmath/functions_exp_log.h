@@ -10,13 +10,14 @@
 
 #include "exp_log_kernels.h"
 #include "function_arguments.h"
+#include "reference_exp.h"
 
 namespace ttmath {
 namespace wide {
 
 // e^x for an argument that is not zero, with the trivial ranges settled first.
 template<uint exp, uint man>
-uint ExpOfArgument(Big<exp, man> & result, const Argument<exp, man> & a)
+uint ExpOfArgument(Big<exp, man> & result, const Big<exp, man> & x, const Argument<exp, man> & a)
 {
     typedef Work<exp, man> W;
     const sint bits = static_cast<sint>(Big<exp, man>::mantissa_bits);
@@ -30,11 +31,16 @@ uint ExpOfArgument(Big<exp, man> & result, const Argument<exp, man> & a)
         result.SetNan();
         return 1;
     }
-    return RoundCorrectly(result, [&](std::size_t n, Approximation<exp, man> & out) -> uint {
+    uint c = RoundCorrectly(result, [&](std::size_t n, Approximation<exp, man> & out) -> uint {
         typename W::Float x;
         a.ToWide(x, n);
         return ExpSplit<exp, man>(out, x, n);
     });
+    // Just outside the range the library's own rounding may still land inside it, and
+    // its value is the answer there.
+    if (c && a.NearRangeEdge())
+        return ReferenceExp(result, x);
+    return c;
 }
 
 // ln of an argument at n words into v, with its error bound.
@@ -71,7 +77,8 @@ uint Big<exp, man>::Exp(const Big & x)
         SetOne();
         return 0;
     }
-    return wide::ExpOfArgument(*this, a);
+    Big copy(x);
+    return wide::ExpOfArgument(*this, copy, a);
 }
 
 template<uint exp, uint man>

@@ -15,5 +15,6 @@
 #include "functions_power.h"
 #include "functions_trig.h"
 #include "functions_inverse_trig.h"
+#include "functions_hyperbolic.h"
 
 #endif

@@ -122,20 +122,17 @@ struct FunctionOps {
 
     static bool SameWords(const Big & a, const Big & b) { return FormatValue(a) == FormatValue(b); }
 
-    // Failing is required for these operations wherever the library failed on a value
-    // that exists (their overflow rule); tiny arguments of coth are the library's own
-    // rounding and may succeed.
+    // Failing is required for sinh, cosh, tanh and coth wherever the library failed on
+    // large arguments: that is their overflow rule (e^|x| or e^-|x| out of range).
+    // Other failures (tiny coth arguments, odd words) are its own rounding.
     static bool FailureRequired(const Line & l)
     {
-        if (l.op == "sinh" || l.op == "cosh" || l.op == "tanh")
-            return true;
-        if (l.op == "coth") {
-            Big x = In(l, 0);
-            Big one;
-            one.SetOne();
-            return !x.SmallerWithoutSignThan(one);
-        }
-        return false;
+        if (l.op != "sinh" && l.op != "cosh" && l.op != "tanh" && l.op != "coth")
+            return false;
+        Big x = In(l, 0), large;
+        large.SetOne();
+        large.exponent.AddInt(x.exponent.Size() * 64 - 3);
+        return !x.IsNan() && !x.IsZero() && x.mantissa.IsTheHighestBitSet() && !x.SmallerWithoutSignThan(large);
     }
 
     // sin, cos, tan and cot fail beyond the reduction limit.
@@ -240,6 +237,14 @@ struct FunctionOps {
             {"acos", &Judge<&Unary<&ttmath::ACos<Big>>>},
             {"atan", &Judge<&NoCodeByValue<&ttmath::ATan<Big>>>},
             {"acot", &Judge<&NoCode<&ttmath::ACot<Big>>>},
+            {"sinh", &Judge<&Unary<&ttmath::Sinh<Big>>>},
+            {"cosh", &Judge<&Unary<&ttmath::Cosh<Big>>>},
+            {"tanh", &Judge<&Unary<&ttmath::Tanh<Big>>>},
+            {"coth", &Judge<&Unary<&ttmath::Coth<Big>>>},
+            {"asinh", &Judge<&Unary<&ttmath::ASinh<Big>>>},
+            {"acosh", &Judge<&Unary<&ttmath::ACosh<Big>>>},
+            {"atanh", &Judge<&Unary<&ttmath::ATanh<Big>>>},
+            {"acoth", &Judge<&Unary<&ttmath::ACoth<Big>>>},
         };
         return table;
     }
