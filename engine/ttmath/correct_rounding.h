@@ -19,13 +19,13 @@ template<uint exp, uint man>
 struct Work {
     // The first round has one guard word; each further round adds as many words as
     // the mantissa has, plus one.
-    static const std::size_t first_words = man + 1;
-    static const std::size_t step_words = man + 1;
-    static const std::size_t rounds = 3;
+    static constexpr std::size_t first_words = man + 1;
+    static constexpr std::size_t step_words = man + 1;
+    static constexpr std::size_t rounds = 3;
     // Extra words some kernels need on top: an argument's integer bits (up to the
     // exponent's width), a guard word and one for alignment.
-    static const std::size_t extra_words = exp + 3;
-    static const std::size_t capacity = first_words + (rounds - 1) * step_words + extra_words + 2;
+    static constexpr std::size_t extra_words = exp + 3;
+    static constexpr std::size_t capacity = first_words + (rounds - 1) * step_words + extra_words + 2;
 
     typedef WideFloat<capacity> Float;
     // Result exponents beyond the working number's: one word wider than the type's.

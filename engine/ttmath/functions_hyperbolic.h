@@ -243,6 +243,16 @@ Big<exp, man> HyperbolicOf(Hyperbolic which, const Big<exp, man> & x, ErrorCode 
     const sint bits = static_cast<sint>(B::mantissa_bits);
     const bool direct = which == Hyperbolic::sinh || which == Hyperbolic::cosh || which == Hyperbolic::tanh ||
                         which == Hyperbolic::coth;
+    // A zero mantissa without the zero flag: the library's checks look at the flag and
+    // its comparisons at the words, and its formulas then fail.
+    if (a.zero && !x.IsZero()) {
+        B one;
+        one.SetOne();
+        if (which == Hyperbolic::coth || (which == Hyperbolic::acosh && !(x < one))) {
+            e = err_overflow;
+            return result;
+        }
+    }
     // domains
     const int vs_one = a.zero ? -1 : a.CompareLead(1) > 0 ? 1 : a.CompareLead(1) < 0 ? -1 : (a.IsOneMagnitude() ? 0 : 1);
     if ((which == Hyperbolic::coth && a.zero) || (which == Hyperbolic::acosh && (a.neg || vs_one < 0)) ||

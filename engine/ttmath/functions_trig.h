@@ -117,8 +117,9 @@ Big<exp, man> TrigOf(Trig which, const Big<exp, man> & x, ErrorCode & e)
     }
     Argument<exp, man> a(x);
     if (a.zero) {
+        // cot of a zero mantissa without the zero flag fails in the library's formula
         if (which == Trig::cot)
-            e = err_improper_argument;
+            e = x.IsZero() ? err_improper_argument : err_overflow;
         else if (which == Trig::cos)
             result.SetOne();
         else

@@ -7,6 +7,7 @@
 #define TTMATH_REFERENCE_EXP_H
 
 #include "big.h"
+#include "work_meter.h"
 
 namespace ttmath {
 namespace wide {
@@ -27,6 +28,7 @@ Big<exp, man> ReferenceExpSeries(const Big<exp, man> & y)
     denominator.SetOne();
     old = sum;
     for (uint i = 1; i <= reference_series_limit; ++i) {
+        Meter().Series(i);
         uint c = numerator.Mul(y);
         c += denominator.Mul(B(i));
         term = numerator;

@@ -27,10 +27,10 @@ const sint reduction_guard_bits = 64;
 
 template<uint exp, uint man>
 struct Reduction {
-    static const std::size_t capacity = Work<exp, man>::capacity;
+    static constexpr std::size_t capacity = Work<exp, man>::capacity;
     // the widest window of 2/pi, in words: the mantissa, twice the working capacity
     // for the fraction, and the guard
-    static const std::size_t window_words = man + 2 * capacity + 4;
+    static constexpr std::size_t window_words = man + 2 * capacity + 4;
 };
 
 // Bits [lo_bit, lo_bit + count) of the integer in table t (count <= 64 words), into dst.
