@@ -10,7 +10,7 @@
 
 #include "exp_log_kernels.h"
 #include "function_arguments.h"
-#include "reference_exp.h"
+#include "reference_exp_ln.h"
 
 namespace ttmath {
 namespace wide {
@@ -87,10 +87,12 @@ uint Big<exp, man>::Ln(const Big & x)
     if (x.IsNan())
         return CheckCarry(1);
     wide::Argument<exp, man> a(x);
-    if (a.zero || a.neg) {
+    if (x.IsZero() || x.IsSign()) {
         SetNan();
         return 2;
     }
+    if (a.zero)
+        return wide::ReferenceLn(*this, x);
     if (a.IsOne()) {
         SetZero();
         return 0;
@@ -104,17 +106,24 @@ uint Big<exp, man>::Log(const Big & x, const Big & base)
     if (x.IsNan() || base.IsNan())
         return CheckCarry(1);
     wide::Argument<exp, man> a(x), b(base);
-    if (a.zero || a.neg) {
+    if (x.IsZero() || x.IsSign()) {
         SetNan();
         return 2;
     }
-    if (b.zero || b.neg || b.IsOne()) {
+    if (base.IsZero() || base.IsSign() || b.IsOne()) {
         SetNan();
         return 3;
     }
     if (a.IsOne()) {
         SetZero();
         return 0;
+    }
+    if (a.zero || b.zero) {
+        // a zero mantissa without the zero flag: the library's quotient of logarithms
+        Big lb;
+        uint c = wide::ReferenceLn(*this, x) + wide::ReferenceLn(lb, base);
+        c += Div(lb);
+        return CheckCarry(c);
     }
     typedef wide::Work<exp, man> W;
     return wide::RoundCorrectly(*this, [&](std::size_t n, wide::Approximation<exp, man> & out) -> uint {

@@ -243,15 +243,34 @@ Big<exp, man> HyperbolicOf(Hyperbolic which, const Big<exp, man> & x, ErrorCode 
     const sint bits = static_cast<sint>(B::mantissa_bits);
     const bool direct = which == Hyperbolic::sinh || which == Hyperbolic::cosh || which == Hyperbolic::tanh ||
                         which == Hyperbolic::coth;
-    // A zero mantissa without the zero flag: the library's checks look at the flag and
-    // its comparisons at the words, and its formulas then fail.
-    if (a.zero && !x.IsZero()) {
+    // Mantissas without their top bit: the library's checks look at the zero flag and
+    // compare the words as they are, and its formulas then fail on values its checks
+    // let through (a zero for coth, values below 1 for acosh).
+    if (!x.IsZero() && !x.mantissa.IsTheHighestBitSet()) {
         B one;
         one.SetOne();
-        if (which == Hyperbolic::coth || (which == Hyperbolic::acosh && !(x < one))) {
+        if ((which == Hyperbolic::coth && a.zero) || (which == Hyperbolic::acosh && !(x < one) && !a.neg &&
+                                                      (a.zero || a.CompareLead(1) < 0))) {
             e = err_overflow;
             return result;
         }
+    }
+    // acoth of a mantissa without its top bit, worth at most 1, which the library's
+    // comparison of the words lets through: its ln((x + 1)/(x - 1)), halved
+    const bool unnormalised = !x.IsZero() && !x.mantissa.IsTheHighestBitSet();
+    B ax(x), one;
+    ax.Abs();
+    one.SetOne();
+    if (which == Hyperbolic::acoth && unnormalised && ax > one && (a.zero || a.CompareLead(1) <= 0) &&
+        !(a.CompareLead(1) == 0 && !a.IsOneMagnitude())) {
+        B q(x), d(x);
+        uint c = q.Add(one);
+        c += d.Sub(one);
+        c += q.Div(d);
+        c += ReferenceLn(result, q);
+        c += result.exponent.SubOne();
+        e = c ? err_overflow : err_ok;
+        return result;
     }
     // domains
     const int vs_one = a.zero ? -1 : a.CompareLead(1) > 0 ? 1 : a.CompareLead(1) < 0 ? -1 : (a.IsOneMagnitude() ? 0 : 1);

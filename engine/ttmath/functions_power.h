@@ -214,12 +214,21 @@ uint Big<exp, man>::Pow(const Big & pow)
                                !(pow.exponent > Int<exp>(0)) && pow.IsInteger();
     const bool integer = pow.IsInteger();
     bool negative = false;
-    if (x.neg) {
+    if (IsSign()) {
         if (!small_integer) {
             SetNan();
             return 2;
         }
         negative = pow.Mod2() != 0;
+    }
+    if (x.zero && !integer && y.neg) {
+        // a zero mantissa without the zero flag to a negative power: the library's
+        // e^(y ln x)
+        Big l, t(pow);
+        uint c = wide::ReferenceLn(l, *this);
+        c += t.Mul(l);
+        c += wide::ReferenceExp(*this, t);
+        return c ? CheckCarry(1) : 0;
     }
     if (x.zero) {
         // a zero mantissa without the zero flag: its powers are 0, its negative powers

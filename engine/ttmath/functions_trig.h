@@ -116,10 +116,26 @@ Big<exp, man> TrigOf(Trig which, const Big<exp, man> & x, ErrorCode & e)
         return x;
     }
     Argument<exp, man> a(x);
+    if (a.zero && which == Trig::cot && !x.IsZero()) {
+        // A zero mantissa without the zero flag. Its words compare below pi/4 when its
+        // exponent is low: then the library's sine leaves it as it is and its cosine is
+        // 1, so the cotangent is the quotient 1 / x. Otherwise the library's reduction
+        // of the words fails.
+        B quarter_pi, ax(x);
+        quarter_pi.Set05Pi();
+        quarter_pi.exponent.SubOne();
+        ax.Abs();
+        if (!(ax < quarter_pi)) {
+            e = err_overflow;
+            return result;
+        }
+        result.SetOne();
+        e = result.Div(x) ? err_overflow : err_ok;
+        return result;
+    }
     if (a.zero) {
-        // cot of a zero mantissa without the zero flag fails in the library's formula
         if (which == Trig::cot)
-            e = x.IsZero() ? err_improper_argument : err_overflow;
+            e = err_improper_argument;
         else if (which == Trig::cos)
             result.SetOne();
         else
