@@ -16,6 +16,7 @@
 
 #include "correct_rounding.h"
 #include "series_constants.h"
+#include "series_evaluation.h"
 
 namespace ttmath {
 namespace wide {
@@ -42,12 +43,13 @@ uint ExpM1(WideFloat<C> & a, const WideFloat<C> & r, std::size_t n)
         return 0;
     }
     const sint bits = static_cast<sint>(n * word_bits);
-    // Halve until r < 2^-h, h about sqrt(bits): this balances series terms and squarings.
-    const sint h = IntegerSqrt(bits);
+    // Halve until r < 2^-h: with the series summed by rectangular splitting, about
+    // sqrt(bits)/2 balances its products against the squarings.
+    const sint h = IntegerSqrt(bits) / 2;
     sint s = r.e + h;
     if (s < 0)
         s = 0;
-    WideFloat<C> x(r), t, one;
+    WideFloat<C> x(r), t;
     x.Resize(n);
     x.Shift(-s);
     // terms: the first neglected term x^(T+1)/(T+1)! lies below 2^-(bits + margin) |x|
@@ -58,15 +60,9 @@ uint ExpM1(WideFloat<C> & a, const WideFloat<C> & r, std::size_t n)
         ++terms;
         log2_factorial += std::log2(static_cast<double>(terms + 1));
     }
-    Meter().Series(static_cast<std::size_t>(terms + s));
-    // Horner: a = x (1 + x/2 (1 + x/3 (1 + ...)))
-    one.SetOne(n);
-    WideFloat<C> sum(one);
-    for (sint i = terms; i >= 2; --i) {
-        Mul(t, sum, x, n);
-        DivWord(t, t, static_cast<uint>(i), n);
-        Add(sum, t, one, n);
-    }
+    // a = x (1 + x/2! + x^2/3! + ...)
+    WideFloat<C> sum;
+    SumSeries(sum, x, terms, ExpRatio, n);
     Mul(a, sum, x, n);
     // e^(2y) - 1 = a (a + 2)
     for (sint i = 0; i < s; ++i) {
@@ -76,7 +72,7 @@ uint ExpM1(WideFloat<C> & a, const WideFloat<C> & r, std::size_t n)
     }
     // Series and Horner: a few ulps; each doubling adds two and scales by at most
     // 1 + |a| / 2 (their product stays below e).
-    return static_cast<uint>(8 * s + 32);
+    return static_cast<uint>(8 * s + 2 * terms + 32);
 }
 
 // The integer nearest q, as words of |round(q)| (count words); q must be below
@@ -145,6 +141,9 @@ uint ExpSplit(Approximation<exp, man> & out, const typename Work<exp, man>::Floa
     return 0;
 }
 
+// The most terms of ln(1 + c) one Newton step of Log1p sums.
+const sint log1p_max_terms = 16;
+
 // ln(1 + u) for u in [-0.3, 0.42] at n words; returns the error bound in ulps.
 template<std::size_t C>
 uint Log1p(WideFloat<C> & y, const WideFloat<C> & u, std::size_t n)
@@ -167,10 +166,13 @@ uint Log1p(WideFloat<C> & y, const WideFloat<C> & u, std::size_t n)
     g.FromDouble(ratio, 2);
     Mul(y, u, g, 2);
     sint acc = 48;
-    // each step: c = (1 + u) e^-y - 1, y += ln(1 + c) to the c^7 term
-    const sint terms = 7;
+    // each step: c = (1 + u) e^-y - 1, y += ln(1 + c) to the c^terms term, enough terms
+    // (up to a limit) to reach the target in one step: the terms are cheap, e^-y is not
     std::size_t steps = 0;
     while (acc < target) {
+        sint terms = (target + 8 + acc - 1) / acc - 1;
+        if (terms > log1p_max_terms)
+            terms = log1p_max_terms;
         sint next = acc * (terms + 1) - 8;
         if (next > target)
             next = target;

@@ -7,6 +7,7 @@
 #define TTMATH_TRIG_KERNELS_H
 
 #include "exp_log_kernels.h"
+#include "series_evaluation.h"
 
 namespace ttmath {
 namespace wide {
@@ -21,11 +22,11 @@ uint OneMinusCos(WideFloat<C> & t, const WideFloat<C> & r, std::size_t n)
     }
     const sint bits = static_cast<sint>(n * word_bits);
     // halve until r < 2^-h: each series term gains 2h bits, each halving costs a product
-    const sint h = IntegerSqrt(bits / 2);
+    const sint h = IntegerSqrt(bits / 2) / 2;
     sint s = r.e + h;
     if (s < 0)
         s = 0;
-    WideFloat<C> x(r), u, sum, one, v;
+    WideFloat<C> x(r), u, sum, v;
     x.Resize(n);
     x.neg = false;
     x.Shift(-s);
@@ -38,15 +39,8 @@ uint OneMinusCos(WideFloat<C> & t, const WideFloat<C> & r, std::size_t n)
         ++terms;
         log2_ratio += std::log2(static_cast<double>((2 * terms + 1) * (2 * terms + 2)));
     }
-    Meter().Series(static_cast<std::size_t>(terms + s));
-    // (u/2) (1 - u/(3 4) (1 - u/(5 6) (1 - ...)))
-    one.SetOne(n);
-    sum = one;
-    for (sint i = terms - 1; i >= 1; --i) {
-        Mul(v, sum, u, n);
-        DivWord(v, v, static_cast<uint>((2 * i + 1) * (2 * i + 2)), n);
-        Sub(sum, one, v, n);
-    }
+    // t = (u/2) (1 - u/(3 4) (1 - u/(5 6) (1 - ...)))
+    SumSeries(sum, u, terms, CosRatio, n);
     Mul(t, sum, u, n);
     t.Shift(-1);
     // 1 - cos 2a = 2 t (2 - t)
@@ -57,7 +51,7 @@ uint OneMinusCos(WideFloat<C> & t, const WideFloat<C> & r, std::size_t n)
         Mul(t, t, v, n);
         t.Shift(1);
     }
-    return static_cast<uint>(4 * s + 24);
+    return static_cast<uint>(4 * s + 2 * terms + 24);
 }
 
 // sin r and cos r of a reduced argument at n words; the error bound (ulps) of each.
