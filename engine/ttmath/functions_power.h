@@ -275,6 +275,82 @@ ValueType Sqrt(ValueType x, ErrorCode * err = 0)
 
 namespace wide {
 
+// Indexes below 2^root_newton_index_bits take Newton's iteration on y^k = x.
+const sint root_newton_index_bits = 20;
+
+// |x|^(1/k) for x != 0, 1 and a word k >= 3, negated when asked. With x = m 2^L,
+// L = q k + r (0 <= r < k): the root is (m 2^r)^(1/k) 2^q. Newton's steps
+// y += y (x / y^k - 1) / k double the correct bits; the last runs at full precision.
+template<uint exp, uint man>
+uint RootByNewton(Big<exp, man> & result, const Argument<exp, man> & x, uint k, bool negative)
+{
+    typedef typename Work<exp, man>::Float Float;
+    typedef typename Work<exp, man>::Offset Offset;
+    // floor division of the leading exponent by k
+    Offset l(x.lead), q;
+    const bool l_neg = l.IsSign();
+    if (l_neg)
+        l.ChangeSign();
+    uint rem = 0;
+    q = l;
+    q.DivInt(k, &rem);
+    uint r = rem;
+    if (l_neg) {
+        q.ChangeSign();
+        if (rem) {
+            q.SubOne();
+            r = k - rem;
+        }
+    }
+    const double start = std::exp2((std::log2(static_cast<double>(x.m[man - 1]) * 0x1p-64) + static_cast<double>(r)) /
+                                   static_cast<double>(k));
+    return RoundCorrectly(result, [&](std::size_t n, Approximation<exp, man> & out) -> uint {
+        const std::size_t last = n + 1;
+        const sint target = static_cast<sint>(last * word_bits) + 16;
+        Float xr, y, p, base, e, one;
+        x.MantissaToWide(xr, last);
+        xr.Shift(static_cast<sint>(r)); // m 2^r with m in [1/2, 1)
+        y.FromDouble(start, 2);
+        sint acc = 40;
+        std::size_t steps = 0;
+        bool final_step = false;
+        while (!final_step) {
+            std::size_t wp = static_cast<std::size_t>(2 * acc / static_cast<sint>(word_bits)) + 2;
+            if (wp >= last || 2 * acc - 8 >= target) {
+                wp = last;
+                final_step = 2 * acc - 8 >= target;
+            }
+            // p = y^k by binary powering
+            base = y;
+            base.Resize(wp);
+            p.SetOne(wp);
+            for (uint b = k;;) {
+                if (b & 1)
+                    Mul(p, p, base, wp);
+                b >>= 1;
+                if (!b)
+                    break;
+                Mul(base, base, base, wp);
+            }
+            Div(e, xr, p, wp);
+            one.SetOne(wp);
+            Sub(e, e, one, wp);
+            DivWord(e, e, k, wp);
+            Mul(e, e, y, wp);
+            y.Resize(wp);
+            Add(y, y, e, wp);
+            acc = 2 * acc - 8;
+            ++steps;
+        }
+        Meter().Series(steps);
+        out.v = y;
+        out.v.neg = negative;
+        out.offset = q;
+        out.err = 32;
+        return 0;
+    });
+}
+
 // |x|^(1/index) with the sign of x, for x not zero and an integer index >= 3.
 template<uint exp, uint man>
 uint RootOfArguments(Big<exp, man> & result, const Argument<exp, man> & x, const Argument<exp, man> & index)
@@ -282,6 +358,11 @@ uint RootOfArguments(Big<exp, man> & result, const Argument<exp, man> & x, const
     typedef typename Work<exp, man>::Float Float;
     Argument<exp, man> ax(x);
     ax.neg = false;
+    if (index.zero) {
+        // a zero mantissa without the zero flag: the library divides by it and fails
+        result.SetNan();
+        return 1;
+    }
     sint ie;
     if (ax.IsOne() || !index.Moderate(ie)) {
         // the root of 1, or an index so large that the root rounds to 1
@@ -290,6 +371,8 @@ uint RootOfArguments(Big<exp, man> & result, const Argument<exp, man> & x, const
             result.SetSign();
         return 0;
     }
+    if (ie >= 2 && ie <= root_newton_index_bits)
+        return RootByNewton(result, ax, index.m[man - 1] >> (word_bits - static_cast<std::size_t>(ie)), x.neg);
     return RoundCorrectly(result, [&](std::size_t n, Approximation<exp, man> & out) -> uint {
         // t = ln|x| / index; ln|x| may have as many integer bits as the exponent
         const std::size_t wp = n + exp + 2;

@@ -43,7 +43,7 @@ struct WideFloat {
 
     void SetZero(std::size_t words)
     {
-        n = words;
+        n = words <= CAP ? words : CAP;
         zero = true;
         neg = false;
         e = 0;
