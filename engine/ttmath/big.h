@@ -12,6 +12,9 @@
 #ifndef TTMATH_BIG_H
 #define TTMATH_BIG_H
 
+#include <string>
+
+#include "conv.h"
 #include "int.h"
 #include "uint.h"
 
@@ -213,7 +216,13 @@ public:
 
     // ---- arithmetic (big_add.h, big_mul_div.h, big_pow.h, big_fraction.h, big_bits.h) --
     uint Add(Big ss2, bool round = true, bool adding = true);
-    uint Sub(const Big & ss2, bool round = true) { return Add(ss2, round, false); }
+    uint Sub(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (AddNormalised(ss2, round, false, rc))
+            return rc;
+        return AddGeneral(ss2, round, false);
+    }
     uint AddOne()
     {
         Big one;
@@ -226,8 +235,21 @@ public:
         one.SetOne();
         return Sub(one);
     }
-    uint Mul(const Big & ss2, bool round = true);
-    uint Div(const Big & ss2, bool round = true);
+    uint Mul(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (MulNormalised(ss2, round, rc))
+            return rc;
+        return MulGeneral(ss2, round);
+    }
+    uint MulOneWord(const Big & ss2, bool round = true); // big_mul_one_word.h
+    uint Div(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (DivNormalised(ss2, round, rc))
+            return rc;
+        return DivGeneral(ss2, round);
+    }
     uint MulUInt(uint ss2);
     uint MulInt(sint ss2);
     uint Mod(const Big & ss2);
@@ -423,6 +445,20 @@ public:
         return r;
     }
 
+    // ---- text (big_to_string.h, big_from_string.h) -----------------------------------
+    uint ToString(std::string & result, const Conv & conv) const;
+    uint ToString(std::string & result, uint base = 10, bool scient = false, sint scient_from = 15,
+                  sint round = -1, bool trim_zeroes = true, char comma = '.') const;
+    std::string ToString(const Conv & conv) const;
+    std::string ToString(uint base = 10) const;
+
+    uint FromString(const char * source, const Conv & conv, const char ** after_source = 0, bool * value_read = 0);
+    uint FromString(const char * source, uint base = 10, const char ** after_source = 0, bool * value_read = 0);
+    uint FromString(const std::string & string, const Conv & conv, const char ** after_source = 0,
+                    bool * value_read = 0);
+    uint FromString(const std::string & string, uint base = 10, const char ** after_source = 0,
+                    bool * value_read = 0);
+
 private:
     // The zero form when the mantissa is zero (returns true); otherwise clears the
     // zero flag (returns false).
@@ -469,6 +505,10 @@ private:
 
     uint ToUIntCore(uint & result) const;
     bool AddNormalised(const Big & ss2, bool round, bool adding, uint & rc);
+    bool MulNormalised(const Big & ss2, bool round, uint & rc);
+    uint MulGeneral(const Big & ss2, bool round);
+    bool DivNormalised(const Big & ss2, bool round, uint & rc);
+    uint DivGeneral(const Big & ss2, bool round);
     uint AddGeneral(Big ss2, bool round, bool adding);
 
     template<uint e2, uint m2> friend class Big;

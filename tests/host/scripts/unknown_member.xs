@@ -1,0 +1,2 @@
+Var p As New Probe
+p.NoSuchMethod(1)
