@@ -260,6 +260,13 @@ public:
     uint PowUInt(Big pow);
     uint PowInt(const Big & pow);
 
+    // ---- elementary functions, correctly rounded (functions_*.h) ---------------------
+    uint Pow(const Big & pow);
+    uint Sqrt();
+    uint Exp(const Big & x);
+    uint Ln(const Big & x);
+    uint Log(const Big & x, const Big & base);
+
     void SkipFraction();
     void RemainFraction();
     bool IsInteger() const;

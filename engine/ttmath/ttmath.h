@@ -14,5 +14,10 @@
 #include "big_from_string.h"
 #include "basic_functions.h"
 #include "angles.h"
+#include "functions_exp_log.h"
+#include "functions_power.h"
+#include "functions_trig.h"
+#include "functions_inverse_trig.h"
+#include "functions_hyperbolic.h"
 
 #endif

@@ -4,6 +4,7 @@
 
 #include "exact_ops.h"
 #include "text_ops.h"
+#include "function_ops.h"
 
 namespace golden {
 
@@ -12,7 +13,8 @@ const HandlerMap & AllHandlers()
 {
     static const HandlerMap all = [] {
         HandlerMap m;
-        for (const HandlerMap * family : {&ExactOps<Big>::Table(), &TextOps<Big>::Table()})
+        for (const HandlerMap * family : {&ExactOps<Big>::Table(), &TextOps<Big>::Table(),
+                                          &FunctionOps<Big>::Table()})
             m.insert(family->begin(), family->end());
         return m;
     }();
