@@ -1,0 +1,40 @@
+#include "math/random_seed.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+
+#if defined(_WIN32)
+#include <process.h>
+#define ZQT_PROCESS_ID _getpid
+#else
+#include <unistd.h>
+#define ZQT_PROCESS_ID getpid
+#endif
+
+#include "plugin/host_services.h"
+
+namespace zqt {
+
+namespace {
+
+// Spreads the seeds of applications started within the same second.
+const int64_t kProcessIdWeight = 17;
+
+// Seconds since 1970 plus 17 times the process id, cut to 32 bits.
+uint32_t RandomSeed(int64_t secondsSince1970, int64_t processId)
+{
+    return static_cast<uint32_t>(static_cast<uint64_t>(secondsSince1970) +
+                                 static_cast<uint64_t>(kProcessIdWeight) * static_cast<uint64_t>(processId));
+}
+
+} // namespace
+
+void SeedRandomInRuntime()
+{
+    if (!REALinRuntime())
+        return;
+    std::srand(RandomSeed(static_cast<int64_t>(std::time(nullptr)), static_cast<int64_t>(ZQT_PROCESS_ID())));
+}
+
+} // namespace zqt
