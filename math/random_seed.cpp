@@ -6,10 +6,8 @@
 
 #if defined(_WIN32)
 #include <process.h>
-#define ZQT_PROCESS_ID _getpid
 #else
 #include <unistd.h>
-#define ZQT_PROCESS_ID getpid
 #endif
 
 #include "plugin/host_services.h"
@@ -28,13 +26,22 @@ uint32_t RandomSeed(int64_t secondsSince1970, int64_t processId)
                                  static_cast<uint64_t>(kProcessIdWeight) * static_cast<uint64_t>(processId));
 }
 
+int64_t ProcessId()
+{
+#if defined(_WIN32)
+    return _getpid();
+#else
+    return getpid();
+#endif
+}
+
 } // namespace
 
 void SeedRandomInRuntime()
 {
     if (!REALinRuntime())
         return;
-    std::srand(RandomSeed(static_cast<int64_t>(std::time(nullptr)), static_cast<int64_t>(ZQT_PROCESS_ID())));
+    std::srand(RandomSeed(static_cast<int64_t>(std::time(nullptr)), ProcessId()));
 }
 
 } // namespace zqt
