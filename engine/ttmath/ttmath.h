@@ -16,6 +16,7 @@
 #include "angles.h"
 #include "functions_exp_log.h"
 #include "functions_power.h"
+#include "functions_root.h"
 #include "functions_trig.h"
 #include "functions_inverse_trig.h"
 #include "functions_hyperbolic.h"

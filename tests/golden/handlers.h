@@ -3,8 +3,8 @@
 #define GOLDEN_HANDLERS_H
 
 #include "exact_ops.h"
-#include "text_ops.h"
 #include "function_ops.h"
+#include "text_ops.h"
 
 namespace golden {
 
@@ -13,8 +13,8 @@ const HandlerMap & AllHandlers()
 {
     static const HandlerMap all = [] {
         HandlerMap m;
-        for (const HandlerMap * family : {&ExactOps<Big>::Table(), &TextOps<Big>::Table(),
-                                          &FunctionOps<Big>::Table()})
+        for (const HandlerMap * family :
+             {&ExactOps<Big>::Table(), &FunctionOps<Big>::Table(), &TextOps<Big>::Table()})
             m.insert(family->begin(), family->end());
         return m;
     }();
