@@ -1,8 +1,10 @@
 // Results to the last bit: the constants' raw data (DataMantissa, DataExponent,
 // DataFlags) and Exp, Ln, Sin and Cos at a few arguments, for both classes. A number
 // is shown as its mantissa's 64-bit words, most significant first, its exponent and its
-// flags. The expected words come from an independent multiple-precision library: the
-// constants truncated, the functions rounded to nearest.
+// flags, and then as the decimal digits StringValue prints. The expected words and
+// digits come from an independent multiple-precision library: the constants' words
+// truncated, the functions' rounded to nearest, every printed digit as the true value's
+// rounded to that length.
 Function HexDigit(d As Integer) As String
   If d < 10 Then Return Str(d)
   If d = 10 Then Return "a"
@@ -91,3 +93,21 @@ Print "Sin(1)    " + BiggerBits(BiggerNumberZQT.Sin(New BiggerNumberZQT(1)))
 Print "Cos(1)    " + BiggerBits(BiggerNumberZQT.Cos(New BiggerNumberZQT(1)))
 Print "Sin(100)  " + BiggerBits(BiggerNumberZQT.Sin(New BiggerNumberZQT(100)))
 Print "Cos(-0.5) " + BiggerBits(BiggerNumberZQT.Cos(New BiggerNumberZQT(-0.5)))
+
+Print "-- decimal digits"
+Print BigNumberZQT.Pi.StringValue
+Print BigNumberZQT.E.StringValue
+Print BigNumberZQT.Ln2.StringValue
+Print BigNumberZQT.Ln10.StringValue
+Print BigNumberZQT.Exp(New BigNumberZQT(-10)).StringValue
+Print BigNumberZQT.Ln(New BigNumberZQT(0.75)).StringValue
+Print BigNumberZQT.Sin(New BigNumberZQT(1)).StringValue
+Print BigNumberZQT.Cos(New BigNumberZQT(1)).StringValue
+Print BiggerNumberZQT.Pi.StringValue
+Print BiggerNumberZQT.E.StringValue
+Print BiggerNumberZQT.Ln2.StringValue
+Print BiggerNumberZQT.Ln10.StringValue
+Print BiggerNumberZQT.Exp(New BiggerNumberZQT(-10)).StringValue
+Print BiggerNumberZQT.Ln(New BiggerNumberZQT(0.75)).StringValue
+Print BiggerNumberZQT.Sin(New BiggerNumberZQT(1)).StringValue
+Print BiggerNumberZQT.Cos(New BiggerNumberZQT(1)).StringValue
