@@ -7,8 +7,7 @@
 
 #include <ttmath/ttmath.h>
 
-#include "numbers/operation_error.h"
-#include "plugin/handler_guard.h"
+#include "numbers/checked_call.h"
 
 namespace zqt {
 
@@ -35,6 +34,11 @@ struct Arithmetic {
     static REALobject Mod(REALobject me, REALobject other)
     {
         return Binary(me, other, "Mod", [](Value & r, const Value & a) { return r.Mod(a); });
+    }
+    // The general power: integer or fractional exponent.
+    static REALobject Pow(REALobject me, REALobject other)
+    {
+        return Binary(me, other, "Pow", [](Value & r, const Value & a) { return r.Pow(a); });
     }
     static REALobject BitwiseAnd(REALobject me, REALobject other)
     {
@@ -99,9 +103,10 @@ struct Arithmetic {
                          [=](Value & f) { f.FromUInt(factor); });
     }
 
-    static REALobject Ceil(REALobject me) { return Rounded(me, "Ceil", &ttmath::Ceil<Value>); }
-    static REALobject Floor(REALobject me) { return Rounded(me, "Floor", &ttmath::Floor<Value>); }
-    static REALobject Round(REALobject me) { return Rounded(me, "Round", &ttmath::Round<Value>); }
+    static REALobject Ceil(REALobject me) { return CallShowingArgument<N>("Ceil", me, &ttmath::Ceil<Value>); }
+    static REALobject Floor(REALobject me) { return CallShowingArgument<N>("Floor", me, &ttmath::Floor<Value>); }
+    static REALobject Round(REALobject me) { return CallShowingArgument<N>("Round", me, &ttmath::Round<Value>); }
+    static REALobject Sqrt(REALobject me) { return CallShowingArgument<N>("Sqrt", me, &ttmath::Sqrt<Value>); }
 
     static REALobject SkipFraction(REALobject me)
     {
@@ -186,20 +191,6 @@ private:
                 Value factor;
                 asNumber(factor);
                 RaiseOverflowException(operation, N::Ref(me), &factor);
-                return nullptr;
-            }
-            return N::NewBigNumberZQT(result);
-        });
-    }
-
-    static REALobject Rounded(REALobject me, const char * name, Value (*round)(const Value &, ttmath::ErrorCode *))
-    {
-        Trace(name);
-        return Guarded([&]() -> REALobject {
-            ttmath::ErrorCode error = ttmath::err_ok;
-            Value result = round(N::ValueOf(me), &error);
-            if (error != ttmath::err_ok) {
-                RaiseOverflowException(name, N::Ref(me));
                 return nullptr;
             }
             return N::NewBigNumberZQT(result);

@@ -6,6 +6,12 @@
 
 #include <vector>
 
+#include "math/angle_conversions.h"
+#include "math/constants.h"
+#include "math/elementary.h"
+#include "math/hyperbolic.h"
+#include "math/random_numbers.h"
+#include "math/trigonometric.h"
 #include "numbers/arithmetic.h"
 #include "numbers/factories.h"
 #include "numbers/lifecycle.h"
@@ -64,8 +70,8 @@ std::vector<ListedMethod> NumberMethods()
         {"StringValue(Base as Integer) as String", Handler(&T::GetStringValueBase), Handler(&T::SetStringValueBase)},
         {"Round as @", Handler(&A::Round)},
         {"Equals(other as @) as Boolean", Handler(&A::Equals)},
-        {"Sqrt as @", kNotYetServed},
-        {"Pow(other as @) as @", kNotYetServed},
+        {"Sqrt as @", Handler(&A::Sqrt)},
+        {"Pow(other as @) as @", Handler(&A::Pow)},
         {"Modulate2 as Integer", Handler(&A::Mod2)},
         {"Modulate(other as @) as @", Handler(&A::Mod)},
         {"Divide(other as @, round as boolean = true) as @", Handler(&A::Div)},
@@ -104,8 +110,8 @@ std::vector<ListedMethod> NumberMethods()
         {"Operator_Modulo(other as @) as @", Handler(&A::Mod)},
         {"Operator_ModuloRight(other as @) as @", Handler(&A::Mod)},
         {"Operator_Negate as @", Handler(&A::Operator_Negate)},
-        {"Operator_Power(other as @) as @", kNotYetServed},
-        {"Operator_PowerRight(other as @) as @", kNotYetServed},
+        {"Operator_Power(other as @) as @", Handler(&A::Pow)},
+        {"Operator_PowerRight(other as @) as @", Handler(&A::Pow)},
         {"Operator_Compare(other as @) as Integer", Handler(&A::Operator_Compare)},
     };
 }
@@ -114,6 +120,12 @@ std::vector<ListedMethod> NumberMethods()
 template <class N>
 std::vector<ListedMethod> NumberSharedMethods()
 {
+    using Elem = Elementary<N>;
+    using Angle = AngleConversions<N>;
+    using Hyp = Hyperbolic<N>;
+    using Trig = Trigonometric<N>;
+    using Const = Constants<N>;
+    using Rnd = RandomNumbers<N>;
     using F = Factories<N>;
     using T = TextMethods<N>;
     using V = VariantConversion<N>;
@@ -129,49 +141,49 @@ std::vector<ListedMethod> NumberSharedMethods()
         {"NumberWithDouble(value as double) as @", Handler(&F::NumberWithDouble)},
         {"NumberWithCurrency(value as Currency) as @", Handler(&F::NumberWithCurrency)},
         {"NumberWithString(value as String) as @", Handler(&T::NumberWithString)},
-        {"Abs(value as @) as @", kNotYetServed},
-        {"Sgn(value as @) as @", kNotYetServed},
-        {"Root(value as @, index as @) as @", kNotYetServed},
-        {"DegToDeg(d as @, m as @, s as @) as @", kNotYetServed},
-        {"DegToRad(d as @, m as @, s as @) as @", kNotYetServed},
-        {"DegToGrad(d as @, m as @, s as @) as @", kNotYetServed},
-        {"DegToGrad(value as @) as @", kNotYetServed},
-        {"GradToDeg(value as @) as @", kNotYetServed},
-        {"GradToRad(value as @) as @", kNotYetServed},
-        {"RadToGrad(value as @) as @", kNotYetServed},
-        {"DegToRad(value as @) as @", kNotYetServed},
-        {"RadToDeg(value as @) as @", kNotYetServed},
-        {"ACoth(value as @) as @", kNotYetServed},
-        {"ATanh(value as @) as @", kNotYetServed},
-        {"ACosh(value as @) as @", kNotYetServed},
-        {"ASinh(value as @) as @", kNotYetServed},
-        {"Coth(value as @) as @", kNotYetServed},
-        {"Tanh(value as @) as @", kNotYetServed},
-        {"Cosh(value as @) as @", kNotYetServed},
-        {"Sinh(value as @) as @", kNotYetServed},
-        {"ACot(value as @) as @", kNotYetServed},
-        {"ATan(value as @) as @", kNotYetServed},
-        {"ACos(value as @) as @", kNotYetServed},
-        {"ASin(value as @) as @", kNotYetServed},
-        {"Cot(value as @) as @", kNotYetServed},
-        {"Tan(value as @) as @", kNotYetServed},
-        {"Cos(value as @) as @", kNotYetServed},
-        {"Sin(value as @) as @", kNotYetServed},
-        {"Log(value as @, base as @) as @", kNotYetServed},
-        {"Ln(value as @) as @", kNotYetServed},
-        {"Exp(value as @) as @", kNotYetServed},
-        {"Min as @", kNotYetServed},
-        {"Max as @", kNotYetServed},
-        {"Zero as @", kNotYetServed},
-        {"One as @", kNotYetServed},
-        {"Nan as @", kNotYetServed},
-        {"Pi as @", kNotYetServed},
-        {"HalfPi as @", kNotYetServed},
-        {"TwoPi as @", kNotYetServed},
-        {"E as @", kNotYetServed},
-        {"Ln2 as @", kNotYetServed},
-        {"Ln10 as @", kNotYetServed},
-        {"Rand as @", kNotYetServed},
+        {"Abs(value as @) as @", Handler(&Elem::Abs)},
+        {"Sgn(value as @) as @", Handler(&Elem::Sgn)},
+        {"Root(value as @, index as @) as @", Handler(&Elem::Root)},
+        {"DegToDeg(d as @, m as @, s as @) as @", Handler(&Angle::DegToDeg3)},
+        {"DegToRad(d as @, m as @, s as @) as @", Handler(&Angle::DegToRad3)},
+        {"DegToGrad(d as @, m as @, s as @) as @", Handler(&Angle::DegToGrad3)},
+        {"DegToGrad(value as @) as @", Handler(&Angle::DegToGrad)},
+        {"GradToDeg(value as @) as @", Handler(&Angle::GradToDeg)},
+        {"GradToRad(value as @) as @", Handler(&Angle::GradToRad)},
+        {"RadToGrad(value as @) as @", Handler(&Angle::RadToGrad)},
+        {"DegToRad(value as @) as @", Handler(&Angle::DegToRad)},
+        {"RadToDeg(value as @) as @", Handler(&Angle::RadToDeg)},
+        {"ACoth(value as @) as @", Handler(&Hyp::ACoth)},
+        {"ATanh(value as @) as @", Handler(&Hyp::ATanh)},
+        {"ACosh(value as @) as @", Handler(&Hyp::ACosh)},
+        {"ASinh(value as @) as @", Handler(&Hyp::ASinh)},
+        {"Coth(value as @) as @", Handler(&Hyp::Coth)},
+        {"Tanh(value as @) as @", Handler(&Hyp::Tanh)},
+        {"Cosh(value as @) as @", Handler(&Hyp::Cosh)},
+        {"Sinh(value as @) as @", Handler(&Hyp::Sinh)},
+        {"ACot(value as @) as @", Handler(&Trig::ACot)},
+        {"ATan(value as @) as @", Handler(&Trig::ATan)},
+        {"ACos(value as @) as @", Handler(&Trig::ACos)},
+        {"ASin(value as @) as @", Handler(&Trig::ASin)},
+        {"Cot(value as @) as @", Handler(&Trig::Cot)},
+        {"Tan(value as @) as @", Handler(&Trig::Tan)},
+        {"Cos(value as @) as @", Handler(&Trig::Cos)},
+        {"Sin(value as @) as @", Handler(&Trig::Sin)},
+        {"Log(value as @, base as @) as @", Handler(&Elem::Log)},
+        {"Ln(value as @) as @", Handler(&Elem::Ln)},
+        {"Exp(value as @) as @", Handler(&Elem::Exp)},
+        {"Min as @", Handler(&Const::GetMin)},
+        {"Max as @", Handler(&Const::GetMax)},
+        {"Zero as @", Handler(&Const::GetZero)},
+        {"One as @", Handler(&Const::GetOne)},
+        {"Nan as @", Handler(&Const::GetNan)},
+        {"Pi as @", Handler(&Const::GetPi)},
+        {"HalfPi as @", Handler(&Const::GetHalfPi)},
+        {"TwoPi as @", Handler(&Const::Get2Pi)},
+        {"E as @", Handler(&Const::GetE)},
+        {"Ln2 as @", Handler(&Const::GetLn2)},
+        {"Ln10 as @", Handler(&Const::GetLn10)},
+        {"Rand as @", Handler(&Rnd::GetRand)},
         {"NumberWithUInteger(value as UInteger) as @", Handler(&F::NumberWithUInteger)},
     };
 }

@@ -1,8 +1,10 @@
 // The plugin's one export. The host calls it once, at load, with its resolver: the
 // plugin learns the host's version, announces the record version it claims, adapts its
-// class records to that host and registers its four classes in a fixed order.
+// class records to that host, seeds the random generator inside a built application and
+// registers its four classes in a fixed order.
 #include <initializer_list>
 
+#include "math/random_seed.h"
 #include "numbers/classes.h"
 #include "plugin/host_services.h"
 #include "plugin/host_version.h"
@@ -36,6 +38,7 @@ extern "C" REAL_PLUGIN_EXPORT void REALPluginMain(REALresolver resolver)
         --big.sharedMethodCount;
         --bigger.sharedMethodCount;
     }
+    SeedRandomInRuntime();
     for (REALclassDefinition * record : {&big, &bigger, &ConversionRecord(), &ErrorExceptionRecord()})
         MyREALRegisterClass(record);
 }
