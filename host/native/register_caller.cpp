@@ -34,8 +34,8 @@ using Word = uint64_t;
 template <size_t> using WordAt = Word;
 template <size_t> using RealAt = double;
 
-// Stack slots a call may fill; the host's largest declarations need one or two.
-constexpr size_t kStackSlots = 8;
+// Stack slots a call may fill: twenty arguments on every convention.
+constexpr size_t kStackSlots = 16;
 
 bool IsFloatingPoint(CType c)
 {
