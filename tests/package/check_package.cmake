@@ -1,0 +1,98 @@
+# Unpacks BigNumberZQT.xojo_plugin and checks what the host needs of it: a zip with one
+# top folder named after the plugin; under "Build Resources" exactly the libraries for
+# Linux x86-64, Linux arm64 and Windows x86-64, each in the host's folder for its
+# platform and built for that processor; the help under "IDE Resources/Help"; each
+# library exporting REALPluginMain and nothing else, and the Windows library needing no
+# DLL but the system's.
+#   cmake -DPACKAGE=... -DUNPACK_DIR=... -DREADELF=... -DPE_OBJDUMP=... -P check_package.cmake
+cmake_policy(VERSION 3.25)
+set(plugin BigNumberZQT)
+set(exported REALPluginMain)
+set(windows_system_dlls KERNEL32.dll msvcrt.dll)
+set(libraries
+  "Build Resources/Linux x86-64/${plugin}.so"
+  "Build Resources/Linux arm64/${plugin}.so"
+  "Build Resources/Windows x86-64/${plugin}.dll")
+set(machines "Advanced Micro Devices X86-64" "AArch64")
+set(help "IDE Resources/Help/index.html")
+
+set(failures "")
+macro(fail text)
+  string(APPEND failures "${text}\n")
+endmacro()
+
+file(READ ${PACKAGE} magic LIMIT 4 HEX)
+if(NOT magic STREQUAL "504b0304")
+  message(FATAL_ERROR "${PACKAGE} is not a zip archive")
+endif()
+file(REMOVE_RECURSE ${UNPACK_DIR})
+file(ARCHIVE_EXTRACT INPUT ${PACKAGE} DESTINATION ${UNPACK_DIR})
+
+file(GLOB top RELATIVE ${UNPACK_DIR} ${UNPACK_DIR}/*)
+if(NOT top STREQUAL plugin)
+  fail("the package's top level holds '${top}', not the one folder '${plugin}'")
+endif()
+set(root ${UNPACK_DIR}/${plugin})
+file(GLOB_RECURSE built RELATIVE ${root} "${root}/Build Resources/*")
+list(SORT built)
+set(wanted ${libraries})
+list(SORT wanted)
+if(NOT built STREQUAL wanted)
+  fail("Build Resources holds\n  ${built}\nbut must hold\n  ${wanted}")
+endif()
+if(NOT EXISTS "${root}/${help}")
+  fail("no ${help}")
+endif()
+
+# ELF: the defined global symbols of the dynamic symbol table, and the processor.
+foreach(library machine IN ZIP_LISTS libraries machines)
+  if(NOT machine)
+    continue()
+  endif()
+  execute_process(COMMAND ${READELF} -h --dyn-syms -W "${root}/${library}" OUTPUT_VARIABLE dump RESULT_VARIABLE code)
+  if(NOT code EQUAL 0)
+    fail("${library}: readelf cannot read it")
+    continue()
+  endif()
+  if(NOT dump MATCHES "Machine: +${machine}\n")
+    fail("${library}: not built for ${machine}")
+  endif()
+  string(REGEX MATCHALL "[0-9]+: [0-9a-f]+ +[0-9]+ [A-Z_]+ +(GLOBAL|WEAK) +DEFAULT +[0-9]+ [^\n]+" defined "${dump}")
+  set(names "")
+  foreach(symbol IN LISTS defined)
+    string(REGEX REPLACE ".* ([^ ]+)$" "\\1" name "${symbol}")
+    string(REGEX REPLACE "@.*" "" name "${name}")
+    list(APPEND names ${name})
+  endforeach()
+  if(NOT names STREQUAL exported)
+    fail("${library} exports '${names}', not only ${exported}")
+  endif()
+endforeach()
+
+# PE: the export name table, the processor and the DLLs it imports.
+list(GET libraries 2 dll)
+execute_process(COMMAND ${PE_OBJDUMP} -p "${root}/${dll}" OUTPUT_VARIABLE dump RESULT_VARIABLE code)
+if(NOT code EQUAL 0)
+  fail("${dll}: objdump cannot read it")
+else()
+  if(NOT dump MATCHES "file format pei-x86-64")
+    fail("${dll}: not a Windows x86-64 DLL")
+  endif()
+  string(REGEX MATCH "\\[Ordinal/Name Pointer\\] Table\n(([\t ]+\\[[ 0-9]+\\] [^\n]+\n)*)" table "${dump}")
+  string(REGEX MATCHALL "\\] [^\n]+" entries "${CMAKE_MATCH_1}")
+  list(TRANSFORM entries REPLACE "^\\] " "")
+  if(NOT entries STREQUAL exported)
+    fail("${dll} exports '${entries}', not only ${exported}")
+  endif()
+  string(REGEX MATCHALL "DLL Name: [^\n]+" imports "${dump}")
+  list(TRANSFORM imports REPLACE "^DLL Name: " "")
+  foreach(import IN LISTS imports)
+    if(NOT import IN_LIST windows_system_dlls)
+      fail("${dll} needs ${import}, which Windows does not provide")
+    endif()
+  endforeach()
+endif()
+
+if(failures)
+  message(FATAL_ERROR "${failures}")
+endif()
