@@ -216,7 +216,13 @@ public:
 
     // ---- arithmetic (big_add.h, big_mul_div.h, big_pow.h, big_fraction.h, big_bits.h) --
     uint Add(Big ss2, bool round = true, bool adding = true);
-    uint Sub(const Big & ss2, bool round = true) { return Add(ss2, round, false); }
+    uint Sub(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (AddNormalised(ss2, round, false, rc))
+            return rc;
+        return AddGeneral(ss2, round, false);
+    }
     uint AddOne()
     {
         Big one;
@@ -229,9 +235,21 @@ public:
         one.SetOne();
         return Sub(one);
     }
-    uint Mul(const Big & ss2, bool round = true);
+    uint Mul(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (MulNormalised(ss2, round, rc))
+            return rc;
+        return MulGeneral(ss2, round);
+    }
     uint MulOneWord(const Big & ss2, bool round = true); // big_mul_one_word.h
-    uint Div(const Big & ss2, bool round = true);
+    uint Div(const Big & ss2, bool round = true)
+    {
+        uint rc;
+        if (DivNormalised(ss2, round, rc))
+            return rc;
+        return DivGeneral(ss2, round);
+    }
     uint MulUInt(uint ss2);
     uint MulInt(sint ss2);
     uint Mod(const Big & ss2);
@@ -480,6 +498,10 @@ private:
 
     uint ToUIntCore(uint & result) const;
     bool AddNormalised(const Big & ss2, bool round, bool adding, uint & rc);
+    bool MulNormalised(const Big & ss2, bool round, uint & rc);
+    uint MulGeneral(const Big & ss2, bool round);
+    bool DivNormalised(const Big & ss2, bool round, uint & rc);
+    uint DivGeneral(const Big & ss2, bool round);
     uint AddGeneral(Big ss2, bool round, bool adding);
 
     template<uint e2, uint m2> friend class Big;

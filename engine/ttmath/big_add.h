@@ -8,6 +8,11 @@
 #ifndef TTMATH_BIG_ADD_H
 #define TTMATH_BIG_ADD_H
 
+#include "aligned_sum.h"
+#ifdef TTMATH_ASM_X86_64
+#include "big_add_x86_64.h"
+#endif
+
 namespace ttmath {
 namespace detail {
 
@@ -39,9 +44,10 @@ inline void ShiftRightKeepingRoundBits(uint * m, uint d, bool & last, bool & res
 
 // The common case of Add for a one-word exponent: two normalised non-zero values (no
 // flag but the sign) whose exponents differ by less than a word, and a result that
-// needs at most a word of normalising shift. It computes exactly what the general
-// algorithm computes for such operands, in registers and mostly without branches.
-// Returns false, changing nothing, for any other operands.
+// needs less than a word of normalising shift. It computes exactly what the general
+// algorithm computes for such operands: the mantissa steps are those of aligned_sum.h,
+// which compute the whole shifted sum and its rounding without branches. Returns false,
+// changing nothing, for any other operands.
 template<uint exp, uint man>
 inline bool Big<exp, man>::AddNormalised(const Big & ss2, bool round, bool adding, uint & rc)
 {
@@ -49,74 +55,66 @@ inline bool Big<exp, man>::AddNormalised(const Big & ss2, bool round, bool addin
         (void)ss2, (void)round, (void)adding, (void)rc;
         return false;
     } else {
-        const unsigned bits = words::bits_per_word;
-        const uint top = TTMATH_UINT_HIGHEST_BIT;
         const unsigned char info1 = info;
         const unsigned char info2 = static_cast<unsigned char>(adding ? ss2.info : ss2.info ^ TTMATH_BIG_SIGN);
-        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(mantissa.table[man - 1] & ss2.mantissa.table[man - 1] & top))
+        const uint * a = mantissa.table;
+        const uint * b = ss2.mantissa.table;
+        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
             return false;
 
-        const sint e1 = static_cast<sint>(exponent.table[0]), e2 = static_cast<sint>(ss2.exponent.table[0]);
-        bool swapped = e1 < e2;
-        if (e1 == e2)
-            swapped = words::compare(mantissa.table, ss2.mantissa.table, man) < 0;
-        const uint * L = swapped ? ss2.mantissa.table : mantissa.table;
-        const uint * S = swapped ? mantissa.table : ss2.mantissa.table;
-        const sint large_exponent = swapped ? e2 : e1;
-        // The true difference lies in [0, 2^64): as a word it is exact.
-        const uint d = static_cast<uint>(large_exponent) - static_cast<uint>(swapped ? e1 : e2);
-        if (d >= bits)
+        const bool differ = ((info1 ^ info2) & TTMATH_BIG_SIGN) != 0;
+#ifdef TTMATH_ASM_X86_64
+        if constexpr (man == 4) {
+            static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+            uint * first = exponent.table;
+            const uint * second = ss2.exponent.table;
+            bool done;
+            if (differ)
+                done = round ? x86_64_add::difference<true>(first, second) : x86_64_add::difference<false>(first, second);
+            else
+                done = round ? x86_64_add::sum<true>(first, second) : x86_64_add::sum<false>(first, second);
+            if (!done)
+                return false;
+            rc = IsNan() ? 1 : 0;
+            return true;
+        }
+#endif
+        const uint e1 = exponent.table[0], e2 = ss2.exponent.table[0];
+        const uint diff = e1 - e2;
+        // The true difference must fit a signed word: it does not when the exponents'
+        // signs differ and the wrapped difference has the second one's sign.
+        if (static_cast<sint>((e1 ^ e2) & (e1 ^ diff)) < 0)
             return false;
-        const unsigned k = static_cast<unsigned>(d);
+        bool swapped = static_cast<sint>(diff) < 0;
+        if (diff == 0 && differ) // a sum is symmetric; a difference needs the larger first
+            swapped = words::compare(a, b, man) < 0;
+        const uint d = swapped ? 0 - diff : diff;
+        if (d >= words::bits_per_word)
+            return false;
+        const uint * large = swapped ? b : a;
+        const uint * small = swapped ? a : b;
+        const uint large_exponent = swapped ? e2 : e1;
 
-        // s = S >> d; (x << 1) << (63 - d) is x << (64 - d), and 0 for d == 0
-        uint s[man], r[man];
-        for (std::size_t i = 0; i + 1 < man; ++i)
-            s[i] = (S[i] >> k) | ((S[i + 1] << 1) << (bits - 1 - k));
-        s[man - 1] = S[man - 1] >> k;
-        const uint lost = (S[0] << (bits - 1 - k)) << 1;
-        bool last = (lost >> (bits - 1)) != 0;
-        bool rest_zero = (lost << 1) == 0;
-
-        uint e = static_cast<uint>(large_exponent);
-        const uint max_exponent = top - 1;
-        uint c = 0;
-        if (((info1 ^ info2) & TTMATH_BIG_SIGN) == 0) {
-            if (fixed::add<man>(r, L, s, 0)) {
-                rest_zero = rest_zero && !last;
-                last = (r[0] & 1) != 0;
-                for (std::size_t i = 0; i + 1 < man; ++i)
-                    r[i] = (r[i] >> 1) | (r[i + 1] << (bits - 1));
-                r[man - 1] = (r[man - 1] >> 1) | top;
-                c += e == max_exponent;
-                ++e;
-            }
-            if (round && last && (!rest_zero || (r[0] & 1)) && UInt<man>::AddOneTo(r)) {
-                r[man - 1] = top;
-                c += e == max_exponent;
-                ++e;
-            }
+        uint r[man];
+        uint e, c;
+        unsigned char sign;
+        if (!differ) {
+            sign = info1 & TTMATH_BIG_SIGN;
+            e = large_exponent + aligned::sum<man>(r, large, small, static_cast<unsigned>(d), round);
+            c = static_cast<sint>(e) < static_cast<sint>(large_exponent); // passed the top
         } else {
-            fixed::sub<man>(r, L, s, 0);
-            if (round && last && (!rest_zero || (r[0] & 1)))
-                UInt<man>::SubOneFrom(r);
-            if (!(r[man - 1] & top)) {
-                if (r[man - 1] == 0)
-                    return false; // cancellation of a word or more
-                const unsigned z = words::clz(r[man - 1]);
-                for (std::size_t i = man - 1; i > 0; --i)
-                    r[i] = (r[i] << z) | (r[i - 1] >> (bits - z));
-                r[0] <<= z;
-                const uint min_exponent = top;
-                c += static_cast<sint>(e) < static_cast<sint>(min_exponent + z);
-                e -= z;
-            }
+            sign = (swapped ? info2 : info1) & TTMATH_BIG_SIGN;
+            const unsigned z = aligned::difference<man>(r, large, small, static_cast<unsigned>(d), round);
+            if (z >= words::bits_per_word)
+                return false; // cancellation of a word or more
+            e = large_exponent - z;
+            c = static_cast<sint>(e) > static_cast<sint>(large_exponent); // passed the bottom
         }
 
         exponent.table[0] = e;
         words::copy(mantissa.table, r, man);
-        info = static_cast<unsigned char>(((swapped ? info2 : info1) & TTMATH_BIG_SIGN) | (c ? TTMATH_BIG_NAN : 0));
-        rc = c ? 1 : 0;
+        info = static_cast<unsigned char>(sign | (c ? TTMATH_BIG_NAN : 0));
+        rc = c;
         return true;
     }
 }

@@ -8,14 +8,115 @@
 #ifndef TTMATH_BIG_MUL_DIV_H
 #define TTMATH_BIG_MUL_DIV_H
 
+#include "high_half.h"
+#include "short_product.h"
+#ifdef TTMATH_ASM_X86_64
+#include "big_div_x86_64.h"
+#include "big_mul_x86_64.h"
+#endif
+
 namespace ttmath {
 
+namespace detail {
+
+// x + y and x - y wrapping, recording in `overflow` whether the signed result left the
+// word's range.
+inline uint AddSigned(uint x, uint y, bool & overflow)
+{
+#if defined(__GNUC__) || defined(__clang__)
+    sint r;
+    overflow |= __builtin_add_overflow(static_cast<sint>(x), static_cast<sint>(y), &r);
+    return static_cast<uint>(r);
+#else
+    const uint sum = x + y;
+    overflow |= static_cast<sint>((x ^ sum) & (y ^ sum)) < 0;
+    return sum;
+#endif
+}
+
+inline uint SubSigned(uint x, uint y, bool & overflow)
+{
+#if defined(__GNUC__) || defined(__clang__)
+    sint r;
+    overflow |= __builtin_sub_overflow(static_cast<sint>(x), static_cast<sint>(y), &r);
+    return static_cast<uint>(r);
+#else
+    const uint difference = x - y;
+    overflow |= static_cast<sint>((x ^ y) & (x ^ difference)) < 0;
+    return difference;
+#endif
+}
+
+} // namespace detail
+
+// The common case of Mul: two normalised values with no flag but the sign. The
+// product's leading bit is then one of its top two bits, and high_half.h normalises and
+// rounds it without branches; long mantissas form only the upper columns of the product
+// (short_product.h) unless those cannot decide the result. It computes exactly what the
+// general algorithm computes, exponent steps and carries included. Returns false,
+// changing nothing, for any other operands.
 template<uint exp, uint man>
-uint Big<exp, man>::Mul(const Big & ss2_, bool round)
+inline bool Big<exp, man>::MulNormalised(const Big & ss2, bool round, uint & rc)
+{
+    const unsigned char info1 = info, info2 = ss2.info;
+    const uint * a = mantissa.table;
+    const uint * b = ss2.mantissa.table;
+    if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
+        return false;
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (exp == 1 && man == 4) {
+        if (x86_64_kernels::use_mulx_adx) {
+            static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+            if (round)
+                x86_64_mul::product<true>(exponent.table, ss2.exponent.table);
+            else
+                x86_64_mul::product<false>(exponent.table, ss2.exponent.table);
+            rc = IsNan() ? 1 : 0;
+            return true;
+        }
+    }
+#endif
+    const Int<exp> e2(ss2.exponent); // (ss2 may be *this)
+
+    uint m[man];
+    uint carry = 0;
+    unsigned shift = 0;
+    bool done = false;
+    if constexpr (man >= short_product::min_words)
+        done = short_product::rounded_high_half<man>(m, a, b, round, shift, carry);
+    if (!done) {
+        uint p[2 * man];
+        product::full<man>(p, a, b);
+        shift = high_half::rounded<man>(m, p, round, carry);
+    }
+
+    // the exponent steps of the general algorithm, each checked
+    bool overflow = false;
+    if constexpr (exp == 1) {
+        uint e = detail::AddSigned(exponent.table[0], mantissa_bits - shift, overflow);
+        e = detail::AddSigned(e, e2.table[0], overflow);
+        e = detail::AddSigned(e, carry, overflow);
+        exponent.table[0] = e;
+    } else {
+        overflow = exponent.Add(ExponentFromWord(mantissa_bits - shift)) != 0;
+        overflow = (exponent.Add(e2) != 0) || overflow;
+        if (carry)
+            overflow = (exponent.AddOne() != 0) || overflow;
+    }
+
+    words::copy(mantissa.table, m, man);
+    info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
+    rc = overflow ? 1 : 0;
+    return true;
+}
+
+// The algorithm for every input.
+template<uint exp, uint man>
+TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
 {
     if (this == &ss2_) {
         Big copy(ss2_);
-        return Mul(copy, round);
+        return MulGeneral(copy, round);
     }
     const Big & ss2 = ss2_;
 
@@ -57,12 +158,76 @@ uint Big<exp, man>::Mul(const Big & ss2_, bool round)
     return CheckCarry(c);
 }
 
+// The common case of Div: two normalised values with no flag but the sign. The
+// quotient of the mantissas then has N or N + 1 bits: it fits the mantissa exactly, or
+// its lowest bit is the rounding bit, taken as a tie whatever the remainder. It computes
+// exactly what the general algorithm computes, exponent steps and carries included,
+// without branching on the data. Returns false, changing nothing, for any other
+// operands.
 template<uint exp, uint man>
-uint Big<exp, man>::Div(const Big & ss2_, bool round)
+inline bool Big<exp, man>::DivNormalised(const Big & ss2, bool round, uint & rc)
+{
+    if constexpr (man < 2) {
+        (void)ss2, (void)round, (void)rc;
+        return false;
+    } else {
+        const unsigned char info1 = info, info2 = ss2.info;
+        const uint * a = mantissa.table;
+        const uint * b = ss2.mantissa.table;
+        if (((info1 | info2) & ~TTMATH_BIG_SIGN) != 0 || !(a[man - 1] & b[man - 1] & TTMATH_UINT_HIGHEST_BIT))
+            return false;
+#ifdef TTMATH_ASM_X86_64
+        if constexpr (exp == 1 && man == 4) {
+            static_assert(sizeof(Big) == 8 * (exp + man + 1), "the assembly relies on Big's layout");
+            const bool done = round ? x86_64_div::quotient<true>(mantissa.table, ss2.mantissa.table)
+                                    : x86_64_div::quotient<false>(mantissa.table, ss2.mantissa.table);
+            if (done) {
+                rc = IsNan() ? 1 : 0;
+                return true;
+            }
+        }
+#endif
+        const Int<exp> e2(ss2.exponent); // (ss2 may be *this)
+
+        uint q[man + 1];
+        quotient::shifted_by_normalized<man>(q, a, b);
+        const unsigned extra = static_cast<unsigned>(q[man]); // the quotient has N + extra bits
+        uint m[man];
+        for (std::size_t i = 0; i < man; ++i)
+            m[i] = words::shr_pair(q[i + 1], q[i], extra);
+        const uint up = (round ? 1 : 0) & extra & q[0] & (q[0] >> 1);
+        const uint carry = fixed::add_carry<man>(m, up);
+        if (carry) // all ones rounded up: only the top bit is left
+            m[man - 1] = TTMATH_UINT_HIGHEST_BIT;
+
+        // the exponent steps of the general algorithm, each checked
+        bool overflow = false;
+        if constexpr (exp == 1) {
+            uint e = detail::SubSigned(exponent.table[0], mantissa_bits - extra, overflow);
+            e = detail::SubSigned(e, e2.table[0], overflow);
+            e = detail::AddSigned(e, carry, overflow);
+            exponent.table[0] = e;
+        } else {
+            overflow = exponent.SubInt(mantissa_bits - extra) != 0;
+            overflow = (exponent.Sub(e2) != 0) || overflow;
+            if (carry)
+                overflow = (exponent.AddOne() != 0) || overflow;
+        }
+
+        words::copy(mantissa.table, m, man);
+        info = static_cast<unsigned char>(((info1 ^ info2) & TTMATH_BIG_SIGN) | (overflow ? TTMATH_BIG_NAN : 0));
+        rc = overflow ? 1 : 0;
+        return true;
+    }
+}
+
+// The algorithm for every input.
+template<uint exp, uint man>
+TTMATH_NOINLINE uint Big<exp, man>::DivGeneral(const Big & ss2_, bool round)
 {
     if (this == &ss2_) {
         Big copy(ss2_);
-        return Div(copy, round);
+        return DivGeneral(copy, round);
     }
     const Big & ss2 = ss2_;
 

@@ -18,6 +18,12 @@ namespace portable_kernels {
 typedef unsigned __int128 dword;
 #endif
 
+// All ones when x >= y, else 0.
+inline uint mask_at_least(uint x, uint y)
+{
+    return 0 - static_cast<uint>(x >= y);
+}
+
 // hi:lo = a * b
 inline void mul_ww(uint a, uint b, uint & hi, uint & lo)
 {

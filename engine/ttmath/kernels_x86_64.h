@@ -1,14 +1,47 @@
 // Word kernels for x86-64 in GCC/Clang inline assembly: the carry chains and the
 // multiply-accumulate loops that every mantissa operation runs through. Results are
-// identical to the portable kernels.
+// identical to the portable kernels. The multiply-accumulate loops and the four-word
+// product use MULX, ADCX and ADOX when the processor has them (kernels_x86_64_adx.h,
+// chosen at run time); the loops here run on every x86-64 processor.
 #ifndef TTMATH_KERNELS_X86_64_H
 #define TTMATH_KERNELS_X86_64_H
 
 #include <cstddef>
 #include "types.h"
+#include "cpu_x86_64.h"
+#include "kernels_x86_64_adx.h"
+#include "kernels_x86_64_quotient.h"
 
 namespace ttmath {
 namespace x86_64_kernels {
+
+// An assembly statement that reads n words through a pointer names them as a memory
+// operand of this type, so that the compiler has stored them before and knows that
+// nothing else is read or written.
+template<std::size_t n>
+struct word_block {
+    uint w[n];
+};
+
+template<std::size_t n>
+inline const word_block<n> & words_at(const uint * p)
+{
+    return *reinterpret_cast<const word_block<n> *>(p);
+}
+
+// All ones when x >= y, else 0, always without a branch: for choices that follow the
+// data, which a branch would mispredict half the time.
+inline uint mask_at_least(uint x, uint y)
+{
+    uint mask;
+    __asm__("cmpq %[y], %[x]\n\t"
+            "sbbq %[m], %[m]\n\t"
+            "notq %[m]\n\t"
+            : [m] "=r"(mask)
+            : [x] "r"(x), [y] "rm"(y)
+            : "cc");
+    return mask;
+}
 
 // hi:lo = a * b
 inline void mul_ww(uint a, uint b, uint & hi, uint & lo)
@@ -73,7 +106,7 @@ inline uint sub_n(uint * r, const uint * a, const uint * b, std::size_t n, uint 
 }
 
 // r = a * b over n words; returns the high word. r may alias a.
-inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
+inline uint mul_1_base(uint * r, const uint * a, std::size_t n, uint b)
 {
     uint carry = 0;
     if (n == 0)
@@ -98,7 +131,7 @@ inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
 }
 
 // r += a * b over n words; returns the word carried out of the top.
-inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
+inline uint addmul_1_base(uint * r, const uint * a, std::size_t n, uint b)
 {
     uint carry = 0;
     if (n == 0)
@@ -124,7 +157,7 @@ inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
 }
 
 // r -= a * b over n words; returns the word borrowed from above the top.
-inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
+inline uint submul_1_base(uint * r, const uint * a, std::size_t n, uint b)
 {
     uint carry = 0;
     if (n == 0)
@@ -147,6 +180,23 @@ inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
         : [a] "r"(a), [b] "r"(b), [r] "r"(r), [n] "r"(n)
         : "cc", "memory");
     return carry;
+}
+
+// The multiply-accumulate kernels: with MULX, ADCX and ADOX when the processor has
+// them (kernels_x86_64_adx.h), else the base loops above.
+inline uint mul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    return use_mulx_adx ? mul_1_adx(r, a, n, b) : mul_1_base(r, a, n, b);
+}
+
+inline uint addmul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    return use_mulx_adx ? addmul_1_adx(r, a, n, b) : addmul_1_base(r, a, n, b);
+}
+
+inline uint submul_1(uint * r, const uint * a, std::size_t n, uint b)
+{
+    return use_mulx_adx ? submul_1_adx(r, a, n, b) : submul_1_base(r, a, n, b);
 }
 
 // Four-word carry chains, unrolled: the mantissa width of the 256-bit type.
@@ -187,6 +237,35 @@ inline uint sub_4(uint * r, const uint * a, const uint * b, uint c)
     r[1] = r1;
     r[2] = r2;
     r[3] = r3;
+    return c;
+}
+
+// r += c and r -= c over four words (c is 0 or 1); return the carry or borrow out.
+inline uint add_carry_4(uint * r, uint c)
+{
+    __asm__("addq %[c], %[r0]\n\t"
+            "adcq $0, %[r1]\n\t"
+            "adcq $0, %[r2]\n\t"
+            "adcq $0, %[r3]\n\t"
+            "sbbq %[c], %[c]\n\t"
+            "negq %[c]\n\t"
+            : [r0] "+&r"(r[0]), [r1] "+&r"(r[1]), [r2] "+&r"(r[2]), [r3] "+&r"(r[3]), [c] "+&r"(c)
+            :
+            : "cc");
+    return c;
+}
+
+inline uint sub_carry_4(uint * r, uint c)
+{
+    __asm__("subq %[c], %[r0]\n\t"
+            "sbbq $0, %[r1]\n\t"
+            "sbbq $0, %[r2]\n\t"
+            "sbbq $0, %[r3]\n\t"
+            "sbbq %[c], %[c]\n\t"
+            "negq %[c]\n\t"
+            : [r0] "+&r"(r[0]), [r1] "+&r"(r[1]), [r2] "+&r"(r[2]), [r3] "+&r"(r[3]), [c] "+&r"(c)
+            :
+            : "cc");
     return c;
 }
 
@@ -292,6 +371,59 @@ inline void mul_4x4(uint * r, const uint * a, const uint * b)
         : [x] "+&r"(x), [y] "+&r"(y), [z] "+&r"(z)
         : [a] "r"(a), [b] "r"(b), [r] "r"(r)
         : "rax", "rdx", "cc", "memory");
+}
+
+// The high half of an eight-word product p whose leading bit is one of its top two:
+// shifted left by i (0 or 1) so that its top bit is set, then rounded half to even on
+// the low half (round = 1) or truncated (round = 0). A rounding that carries out leaves
+// only the top bit and sets `carry`. Returns i. No branches: the shift is by a computed
+// count, and the rounding step is the carry out of below + (2^63 - 1) + (the rest of
+// the low half is non-zero or the kept part is odd), `below` being the low half's top
+// word.
+inline uint high_half_rounded_4(uint * m, const uint * p, uint round, uint & carry)
+{
+    uint x2, x3, x4, x5, x6, x7, t, i;
+    __asm__("movq 56(%[p]), %[x7]\n\t"
+            "movq 48(%[p]), %[x6]\n\t"
+            "movq 40(%[p]), %[x5]\n\t"
+            "movq 32(%[p]), %[x4]\n\t"
+            "movq 24(%[p]), %[x3]\n\t"
+            "movq 16(%[p]), %[x2]\n\t"
+            "movq %[x7], %[i]\n\t"
+            "notq %[i]\n\t"
+            "shrq $63, %[i]\n\t"
+            "shldq %%cl, %[x6], %[x7]\n\t"
+            "shldq %%cl, %[x5], %[x6]\n\t"
+            "shldq %%cl, %[x4], %[x5]\n\t"
+            "shldq %%cl, %[x3], %[x4]\n\t"
+            "shldq %%cl, %[x2], %[x3]\n\t"
+            "shlq %%cl, %[x2]\n\t"
+            "orq 8(%[p]), %[x2]\n\t"
+            "orq 0(%[p]), %[x2]\n\t"
+            "movq %[x4], %[t]\n\t"
+            "andl $1, %k[t]\n\t"
+            "orq %[t], %[x2]\n\t"
+            "movq %[round], %[t]\n\t"
+            "negq %[t]\n\t"
+            "andq %[t], %[x2]\n\t"
+            "shrq $1, %[t]\n\t"
+            "negq %[x2]\n\t"
+            "adcq %[t], %[x3]\n\t"
+            "adcq $0, %[x4]\n\t"
+            "adcq $0, %[x5]\n\t"
+            "adcq $0, %[x6]\n\t"
+            "adcq $0, %[x7]\n\t"
+            "sbbq %[t], %[t]\n\t"
+            : [x2] "=&r"(x2), [x3] "=&r"(x3), [x4] "=&r"(x4), [x5] "=&r"(x5), [x6] "=&r"(x6), [x7] "=&r"(x7),
+              [t] "=&r"(t), [i] "=&c"(i)
+            : [p] "r"(p), [round] "r"(round), "m"(words_at<8>(p))
+            : "cc");
+    m[0] = x4;
+    m[1] = x5;
+    m[2] = x6;
+    m[3] = x7 | (t << 63);
+    carry = t & 1;
+    return i;
 }
 
 inline const char * lib_type_str() { return "asm_gcc_64"; }

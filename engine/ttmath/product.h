@@ -111,7 +111,10 @@ inline void full(uint * r, const uint * a, const uint * b)
 {
 #ifdef TTMATH_ASM_X86_64
     if constexpr (n == 4) {
-        x86_64_kernels::mul_4x4(r, a, b);
+        if (x86_64_kernels::use_mulx_adx)
+            x86_64_kernels::mul_4x4_adx(r, a, b);
+        else
+            x86_64_kernels::mul_4x4(r, a, b);
         return;
     }
 #endif

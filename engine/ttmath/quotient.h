@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include "kernels.h"
+#include "reciprocal.h"
 #include "words.h"
 
 namespace ttmath {
@@ -107,22 +108,83 @@ inline void floor_quotient(uint * q, const uint * u, std::size_t un, const uint 
     }
 }
 
-// q[0 .. n] = floor(a * 2^(64n) / v) for n-word a and v with v's top bit set (the
-// quotient then has at most 64n + 1 bits). This is algorithm D for a dividend whose low
-// half is zero and a divisor that needs no normalising shift; the top quotient word,
-// 0 or 1, comes from a comparison instead of a division step.
+// One quotient word of w / d for the (n + 1)-word w = r * β, n-word r < d, d's top bit
+// set: the word is estimated from w's top three words by d's top two (d1, d0, with v
+// their reciprocal), which leaves it at most one too large, and w[0 .. n) becomes the
+// remainder (w[n] is consumed).
 template<std::size_t n>
-inline void shifted_by_normalized(uint * q, const uint * a, const uint * v)
+inline uint shifted_step(uint * w, const uint * d, uint d1, uint d0, uint v)
+{
+    const uint u2 = w[n], u1 = w[n - 1], u0 = w[n - 2];
+    if (u2 == d1 && u1 == d0) {
+        // The estimate would not fit a word (this needs r's top two words equal to
+        // d's): the quotient word is then β - 1 or β - 2; work it out over all words.
+        uint q = TTMATH_UINT_MAX_VALUE;
+        uint top = w[n] - kernel::submul_1(w, d, n, q);
+        while (top != 0) { // negative: q was too large
+            --q;
+            top += kernel::add_n(w, w, d, n, 0);
+        }
+        return q;
+    }
+    uint t1, t0;
+    uint q = reciprocal::div_3by2(u2, u1, u0, d1, d0, v, t1, t0);
+    // w - q * d = (t1, t0, w[n-3], ..., w[0]) - q * (d[n-3], ..., d[0])
+    uint borrow = 0;
+    if constexpr (n > 2)
+        borrow = fixed::submul_1<n - 2>(w, d, q);
+    const uint b0 = t0 < borrow ? 1 : 0;
+    w[n - 2] = t0 - borrow;
+    const uint b1 = t1 < b0 ? 1 : 0;
+    w[n - 1] = t1 - b0;
+    if (b1) {
+        // the estimate was one too large (rare): add the divisor back
+        --q;
+        fixed::add<n>(w, w, d, 0);
+    }
+    return q;
+}
+
+// Steps j, j - 1, ..., 0 of the quotient below.
+template<std::size_t n, std::size_t j>
+inline void shifted_steps_unrolled(uint * q, uint * u, const uint * d, uint d1, uint d0, uint v)
+{
+    q[j] = shifted_step<n>(u + j, d, d1, d0, v);
+    if constexpr (j > 0)
+        shifted_steps_unrolled<n, j - 1>(q, u, d, d1, d0, v);
+}
+
+// q[0 .. n] = floor(a * 2^(64n) / d) for n-word a and d with d's top bit set (the
+// quotient then has at most 64n + 1 bits): the top quotient word, 0 or 1, is whether
+// a >= d; the others come from a reciprocal of d's top two words, one word a step, the
+// remainder sliding down a 2n-word buffer.
+template<std::size_t n>
+inline void shifted_by_normalized(uint * q, const uint * a, const uint * d)
 {
     static_assert(n >= 2, "two divisor words are needed for the estimate");
-    uint u[2 * n + 1];
+#ifdef TTMATH_ASM_X86_64
+    if constexpr (n == 4) {
+        if (x86_64_kernels::shifted_quotient_4(q, a, d))
+            return;
+    }
+#endif
+    uint u[2 * n];
+    uint * r = u + n;
     words::fill(u, n, 0);
-    words::copy(u + n, a, n);
-    u[2 * n] = 0;
-    q[n] = words::compare(a, v, n) >= 0 ? 1 : 0;
-    if (q[n])
-        kernel::sub_n(u + n, u + n, v, n, 0);
-    normalized_steps(q, u, n, v, n);
+    const uint below = fixed::sub<n>(r, a, d, 0);
+    q[n] = 1 - below;
+    const uint keep_a = 0 - below; // r = a when a < d, else a - d (a select, not a branch)
+    for (std::size_t i = 0; i < n; ++i)
+        r[i] ^= (r[i] ^ a[i]) & keep_a;
+    const uint d1 = d[n - 1], d0 = d[n - 2];
+    const uint v = reciprocal::of_pair(d1, d0);
+    if constexpr (n <= fixed::unrolled_max_words) {
+        // unrolled: every word of u at a fixed place, which the compiler keeps in registers
+        shifted_steps_unrolled<n, n - 1>(q, u, d, d1, d0, v);
+    } else {
+        for (std::size_t j = n; j-- > 0;)
+            q[j] = shifted_step<n>(u + j, d, d1, d0, v);
+    }
 }
 
 } // namespace quotient

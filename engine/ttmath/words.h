@@ -101,6 +101,31 @@ inline uint shr_bits(uint * r, const uint * a, std::size_t n, unsigned bits)
     return out;
 }
 
+// The low word of the double word hi:lo shifted right by k, 0 <= k < 64 (lo for k = 0).
+inline uint shr_pair(uint hi, uint lo, unsigned k)
+{
+#if defined(__SIZEOF_INT128__) && !defined(TTMATH_NO_INT128)
+    // compilers turn this into a single double-word shift instruction; the mask tells
+    // them that the count is below a word
+    typedef unsigned __int128 dword;
+    return static_cast<uint>(((static_cast<dword>(hi) << bits_per_word) | lo) >> (k & (bits_per_word - 1)));
+#else
+    // (hi << 1) << (63 - k) is hi << (64 - k), and 0 for k = 0
+    return (lo >> k) | ((hi << 1) << (bits_per_word - 1 - k));
+#endif
+}
+
+// The high word of the double word hi:lo shifted left by k, 0 <= k < 64 (hi for k = 0).
+inline uint shl_pair(uint hi, uint lo, unsigned k)
+{
+#if defined(__SIZEOF_INT128__) && !defined(TTMATH_NO_INT128)
+    typedef unsigned __int128 dword;
+    return static_cast<uint>((((static_cast<dword>(hi) << bits_per_word) | lo) << (k & (bits_per_word - 1))) >> bits_per_word);
+#else
+    return (hi << k) | ((lo >> 1) >> (bits_per_word - 1 - k));
+#endif
+}
+
 // Leading zero bits of an n-word number; 0 when it is zero.
 inline uint leading_zeros(const uint * a, std::size_t n)
 {

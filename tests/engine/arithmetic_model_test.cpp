@@ -4,6 +4,8 @@
 // correctly. Also: the one-word-exponent fast path of Add against the general algorithm.
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 #include <ttmath/ttmath.h>
 
 #include "test_support.h"
@@ -81,15 +83,80 @@ void CheckMulDiv(int rounds)
 
 TEST(ArithmeticModel, ProductsAndQuotientsAtManyWidths)
 {
-    CheckMulDiv<ttmath::Big<1, 1>>(2000);
-    CheckMulDiv<ttmath::Big<1, 2>>(2000);
-    CheckMulDiv<ttmath::Big<1, 3>>(2000);
-    CheckMulDiv<ttmath::Big<1, 4>>(2000);
-    CheckMulDiv<ttmath::Big<2, 5>>(1000);
-    CheckMulDiv<ttmath::Big<1, 24>>(300);
-    CheckMulDiv<ttmath::Big<3, 25>>(300);
-    CheckMulDiv<ttmath::Big<8, 32>>(300);
-    CheckMulDiv<ttmath::Big<1, 48>>(100);
+    static_assert(ttmath::short_product::min_words == 8, "the sizes below straddle the short product");
+    ForEachKernelChoice([] {
+        CheckMulDiv<ttmath::Big<1, 1>>(2000);
+        CheckMulDiv<ttmath::Big<1, 2>>(2000);
+        CheckMulDiv<ttmath::Big<1, 3>>(2000);
+        CheckMulDiv<ttmath::Big<1, 4>>(2000);
+        CheckMulDiv<ttmath::Big<2, 4>>(1000);
+        CheckMulDiv<ttmath::Big<2, 5>>(1000);
+        CheckMulDiv<ttmath::Big<1, 7>>(1000);
+        CheckMulDiv<ttmath::Big<1, 8>>(1000);
+        CheckMulDiv<ttmath::Big<1, 24>>(300);
+        CheckMulDiv<ttmath::Big<3, 25>>(300);
+        CheckMulDiv<ttmath::Big<8, 32>>(300);
+        CheckMulDiv<ttmath::Big<1, 48>>(100);
+    });
+}
+
+// The fast paths at the ends of the exponent range, where each exponent step of the
+// general algorithm is checked on its own (values from the arithmetic's description),
+// and a sum that rounds an all-ones mantissa up.
+typedef ttmath::Big<1, 4> Big256;
+const Word h = TTMATH_UINT_HIGHEST_BIT, f = ~Word(0);
+const ttmath::sint emax = INT64_MAX, emin = INT64_MIN;
+
+Big256 Value(unsigned char info, ttmath::sint e, Word w3, Word w2 = 0, Word w1 = 0, Word w0 = 0)
+{
+    Big256 x;
+    x.info = info;
+    x.exponent = ttmath::Int<1>(e);
+    x.mantissa.table[3] = w3, x.mantissa.table[2] = w2, x.mantissa.table[1] = w1, x.mantissa.table[0] = w0;
+    return x;
+}
+
+struct RangeCase {
+    char op;
+    Big256 a, b, result;
+    Word rc;
+};
+
+TEST(ArithmeticModel, FastPathsAtTheEndsOfTheExponentRange)
+{
+    const Big256 max = Value(0, emax, f, f, f, f), one = Value(0, -255, h), two = Value(0, -254, h),
+                 half = Value(0, -256, h), smallest = Value(0, emin, h);
+    const RangeCase cases[] = {
+        {'*', max, two, Value(0x40, emin, f, f, f, f), 1},
+        {'*', max, one, Value(0x40, emax, f, f, f, f), 1},
+        {'*', max, half, Value(0x40, emax - 1, f, f, f, f), 1},
+        {'*', half, max, Value(0, emax - 1, f, f, f, f), 0},
+        {'*', smallest, half, Value(0x40, emax, h), 1},
+        {'*', smallest, smallest, Value(0x40, 255, h), 1},
+        {'*', smallest, two, Value(0, emin + 1, h), 0},
+        {'/', max, half, Value(0x40, emin, f, f, f, f), 1},
+        {'/', max, one, Value(0, emax, f, f, f, f), 0},
+        {'/', smallest, one, Value(0x40, emin, h), 1},
+        {'/', smallest, two, Value(0x40, emax, h), 1},
+        {'/', Value(0, emin + 255, h), one, Value(0, emin + 255, h), 0},
+        {'/', Value(0, emin + 254, h), one, Value(0x40, emin + 254, h), 1}, // wrapped out and back
+        {'/', one, max, Value(0x40, 9223372036854775298, h), 1},
+        {'+', max, max, Value(0x40, emin, f, f, f, f), 1},
+        {'-', Value(0x80, emax, f, f, f, f), max, Value(0xc0, emin, f, f, f, f), 1},
+        // the kept part rounds up from all ones: 2^255 and one more in the exponent
+        {'+', Value(0, 0, ~(h >> 1), f, f, f), Value(0, -1, h, 0, 0, 1), Value(0, 1, h), 0},
+        {'+', Value(0, emax, ~(h >> 1), f, f, f), Value(0, emax - 1, h, 0, 0, 1), Value(0x40, emin, h), 1},
+    };
+    ForEachKernelChoice([&] {
+        for (const RangeCase & c : cases) {
+            Big256 r(c.a);
+            Word rc = c.op == '*' ? r.Mul(c.b) : c.op == '/' ? r.Div(c.b) : c.op == '+' ? r.Add(c.b) : r.Sub(c.b);
+            EXPECT_EQ(rc, c.rc) << c.op;
+            EXPECT_EQ(r.info, c.result.info) << c.op;
+            EXPECT_EQ(r.exponent.ToInt(), c.result.exponent.ToInt()) << c.op;
+            EXPECT_TRUE(r.mantissa == c.result.mantissa) << c.op;
+        }
+    });
 }
 
 // Same-sign sums are correctly rounded (ties to even), or truncated without rounding.
@@ -143,13 +210,15 @@ TEST(ArithmeticModel, SameSignSumsAreCorrectlyRounded)
 
 // The fast path of Add serves a one-word exponent; a two-word exponent always takes the
 // general algorithm. Both must agree word for word on values where the exponents fit,
-// including cancellation, ties and rounding off.
-TEST(ArithmeticModel, AddFastPathAgreesWithGeneralAlgorithm)
+// including cancellation, ties and rounding off. Four words have the assembly fast path
+// on x86-64, other sizes its C++.
+template<std::size_t words>
+void CheckAddFastPath(int rounds)
 {
-    typedef ttmath::Big<1, 4> Fast;
-    typedef ttmath::Big<2, 4> General;
-    Random rng(77);
-    for (int round = 0; round < 200000; ++round) {
+    typedef ttmath::Big<1, words> Fast;
+    typedef ttmath::Big<2, words> General;
+    Random rng(77 + words);
+    for (int round = 0; round < rounds; ++round) {
         Fast a = RandomNormal<Fast>(rng, 0, 0, rng.Next() & 1);
         Fast b = RandomNormal<Fast>(rng, -70, 1, rng.Next() & 1);
         if (round % 8 == 0) // nearly equal magnitudes: deep cancellation
@@ -163,11 +232,19 @@ TEST(ArithmeticModel, AddFastPathAgreesWithGeneralAlgorithm)
         Word gc = adding ? general.Add(other, r) : general.Sub(other, r);
         ASSERT_EQ(fc, gc);
         ASSERT_EQ(fast.info, general.info) << "round " << round;
-        ASSERT_EQ(std::vector<Word>(fast.mantissa.table, fast.mantissa.table + 4),
-                  std::vector<Word>(general.mantissa.table, general.mantissa.table + 4))
-            << "round " << round;
+        ASSERT_EQ(std::vector<Word>(fast.mantissa.table, fast.mantissa.table + words),
+                  std::vector<Word>(general.mantissa.table, general.mantissa.table + words))
+            << words << " words, round " << round;
         ASSERT_EQ(fast.exponent.ToInt(), general.exponent.ToInt());
     }
+}
+
+TEST(ArithmeticModel, AddFastPathAgreesWithGeneralAlgorithm)
+{
+    CheckAddFastPath<4>(200000);
+    CheckAddFastPath<1>(20000);
+    CheckAddFastPath<3>(20000);
+    CheckAddFastPath<8>(20000);
 }
 
 } // namespace

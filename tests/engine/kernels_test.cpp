@@ -13,7 +13,8 @@ using testing_support::Random;
 typedef ttmath::uint Word;
 typedef unsigned __int128 u128;
 
-const std::size_t lengths[] = {1, 2, 3, 4, 5, 8, 9, 32, 33};
+// every remainder of the four-word groups of the multiply-accumulate loops
+const std::size_t lengths[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 30, 31, 32, 33};
 const int rounds = 300;
 
 std::vector<Word> Words(Random & rng, std::size_t n)
@@ -97,7 +98,7 @@ TEST(Kernels, CarryChains)
     }
 }
 
-TEST(Kernels, MultiplyAccumulate)
+void CheckMultiplyAccumulate()
 {
     Random rng;
     for (std::size_t n : lengths) {
@@ -127,11 +128,20 @@ TEST(Kernels, MultiplyAccumulate)
                 ASSERT_EQ(dec[i], r[i] - low);
                 dc = static_cast<Word>(t >> 64) + (r[i] < low ? 1 : 0);
             }
-            EXPECT_EQ(top, pc);
-            EXPECT_EQ(acc_top, ac);
-            EXPECT_EQ(dec_top, dc);
+            ASSERT_EQ(top, pc) << "n=" << n;
+            ASSERT_EQ(acc_top, ac) << "n=" << n;
+            ASSERT_EQ(dec_top, dc) << "n=" << n;
+
+            std::vector<Word> in_place = a; // mul_1 may work in place
+            ttmath::kernel::mul_1(in_place.data(), in_place.data(), n, m);
+            ASSERT_EQ(in_place, prod);
         }
     }
+}
+
+TEST(Kernels, MultiplyAccumulate)
+{
+    testing_support::ForEachKernelChoice(CheckMultiplyAccumulate);
 }
 
 #ifdef TTMATH_ASM_X86_64
@@ -153,6 +163,19 @@ TEST(Kernels, FourWordKernelsMatchPortable)
         ttmath::x86_64_kernels::mul_4x4(p1, a.data(), b.data());
         ttmath::product::columns<4>(p2, a.data(), b.data());
         EXPECT_TRUE(std::equal(p1, p1 + 8, p2));
+        if (ttmath::x86_64_kernels::detect_mulx_adx()) {
+            ttmath::x86_64_kernels::mul_4x4_adx(p1, a.data(), b.data());
+            EXPECT_TRUE(std::equal(p1, p1 + 8, p2));
+        }
+        // a carry or borrow of one, through words that are often all ones or zero
+        const Word zeros[4] = {};
+        Word x1[4], x2[4];
+        std::copy(a.begin(), a.end(), x1);
+        std::copy(a.begin(), a.end(), x2);
+        EXPECT_EQ(ttmath::x86_64_kernels::add_carry_4(x1, c), ttmath::portable_kernels::add_n(x2, x2, zeros, 4, c));
+        EXPECT_TRUE(std::equal(x1, x1 + 4, x2));
+        EXPECT_EQ(ttmath::x86_64_kernels::sub_carry_4(x1, c), ttmath::portable_kernels::sub_n(x2, x2, zeros, 4, c));
+        EXPECT_TRUE(std::equal(x1, x1 + 4, x2));
     }
 }
 #endif

@@ -4,6 +4,7 @@
 #define TESTS_ENGINE_TEST_SUPPORT_H
 
 #include <gmp.h>
+#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <vector>
@@ -53,6 +54,26 @@ Big RandomNormal(Random & rng, int lo, int hi, bool negative = false)
     x.exponent = decltype(x.exponent)(static_cast<ttmath::sint>(rng.Between(lo, hi)) -
                                       static_cast<ttmath::sint>(Big::mantissa_bits) + 1);
     return x;
+}
+
+// Runs `check` once for every set of word kernels this processor can run: on x86-64
+// with MULX/ADCX/ADOX where it has them, and with the base kernels.
+template<class Check>
+void ForEachKernelChoice(Check check)
+{
+#ifdef TTMATH_ASM_X86_64
+    const bool detected = ttmath::x86_64_kernels::use_mulx_adx;
+    for (bool use : {false, true}) {
+        if (use && !ttmath::x86_64_kernels::detect_mulx_adx())
+            continue;
+        ttmath::x86_64_kernels::use_mulx_adx = use;
+        SCOPED_TRACE(use ? "MULX/ADCX/ADOX kernels" : "base kernels");
+        check();
+    }
+    ttmath::x86_64_kernels::use_mulx_adx = detected;
+#else
+    check();
+#endif
 }
 
 class Mpz {
