@@ -12,6 +12,7 @@ namespace {
 
 const char * const kRootClass = "Object";
 const char * const kHiddenAttribute = "Hidden";
+const std::string kAsWord = " as "; // between a declaration's parameters and its type
 
 enum class Kind { Property, Method, SharedProperty, SharedMethod };
 
@@ -56,10 +57,10 @@ size_t FindAs(const std::string & text, size_t from)
 {
     const std::string lower = Lower(text);
     bool quoted = false;
-    for (size_t i = from; i + 4 <= lower.size(); ++i) {
+    for (size_t i = from; i + kAsWord.size() <= lower.size(); ++i) {
         if (lower[i] == '"')
             quoted = !quoted;
-        if (!quoted && lower.compare(i, 4, " as ") == 0)
+        if (!quoted && lower.compare(i, kAsWord.size(), kAsWord) == 0)
             return i;
     }
     return std::string::npos;
@@ -83,9 +84,9 @@ Row MethodRow(Kind kind, const hostsim::MethodInfo & method)
         row.parameters = d.substr(after + 1, close - after - 1);
         after = close + 1;
     }
-    const size_t as = FindAs(d, after == 0 ? 0 : after - 1);
+    const size_t as = FindAs(d, after);
     if (as != std::string::npos)
-        row.type = d.substr(as + 4);
+        row.type = d.substr(as + kAsWord.size());
     return row;
 }
 

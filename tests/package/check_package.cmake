@@ -7,6 +7,7 @@
 #   cmake -DPACKAGE=... -DUNPACK_DIR=... -DREADELF=... -DPE_OBJDUMP=... -P check_package.cmake
 cmake_policy(VERSION 3.25)
 set(plugin BigNumberZQT)
+set(zip_signature 504b0304)
 set(exported REALPluginMain)
 set(windows_system_dlls KERNEL32.dll msvcrt.dll)
 set(libraries
@@ -22,7 +23,7 @@ macro(fail text)
 endmacro()
 
 file(READ ${PACKAGE} magic LIMIT 4 HEX)
-if(NOT magic STREQUAL "504b0304")
+if(NOT magic STREQUAL zip_signature)
   message(FATAL_ERROR "${PACKAGE} is not a zip archive")
 endif()
 file(REMOVE_RECURSE ${UNPACK_DIR})
