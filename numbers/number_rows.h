@@ -11,6 +11,8 @@
 #include "numbers/lifecycle.h"
 #include "numbers/native_properties.h"
 #include "numbers/raw_data.h"
+#include "numbers/variant_conversion.h"
+#include "text/text_methods.h"
 
 namespace zqt {
 
@@ -43,22 +45,23 @@ std::vector<ListedMethod> NumberMethods()
 {
     using L = Lifecycle<N>;
     using A = Arithmetic<N>;
+    using T = TextMethods<N>;
     return {
         {"Ceil as @", Handler(&A::Ceil)},
         {"SkipFraction as @", Handler(&A::SkipFraction)},
         {"Frac as @", Handler(&A::Frac)},
         {"Floor as @", Handler(&A::Floor)},
-        {"GetStringValue(Conversion as BigNumberConversionZQT) as String", kNotYetServed},
+        {"GetStringValue(Conversion as BigNumberConversionZQT) as String", Handler(&T::GetStringValueConv)},
         {"GetStringValue(Base as Integer = 10, scientific as boolean = false, scientificFrom as Integer = 15, "
          "round as Integer = -1, TrimZeros as Boolean = true, comma as String = \".\") as String",
-         kNotYetServed},
+         Handler(&T::GetStringValueExt)},
         {"SetStringValue(Text As String, Base as Integer, byref AfterText as String, Byref ValueRead as boolean)",
-         kNotYetServed},
+         Handler(&T::SetStringValueExt)},
         {"SetStringValue(Text As String, Conversion as BigNumberConversionZQT, byref AfterText as String, "
          "Byref ValueRead as boolean)",
-         kNotYetServed},
-        {"SetStringValue(Text As String, Conversion as BigNumberConversionZQT)", kNotYetServed},
-        {"StringValue(Base as Integer) as String", kNotYetServed},
+         Handler(&T::SetStringValueConv)},
+        {"SetStringValue(Text As String, Conversion as BigNumberConversionZQT)", Handler(&T::SetStringValueConv2)},
+        {"StringValue(Base as Integer) as String", Handler(&T::GetStringValueBase), Handler(&T::SetStringValueBase)},
         {"Round as @", Handler(&A::Round)},
         {"Equals(other as @) as Boolean", Handler(&A::Equals)},
         {"Sqrt as @", kNotYetServed},
@@ -86,8 +89,8 @@ std::vector<ListedMethod> NumberMethods()
         {"Constructor(value as Single)", Handler(&L::ConstructorSingle)},
         {"Constructor(value as Currency)", Handler(&L::ConstructorCurrency)},
         {"Constructor(other as @)", Handler(&L::ConstructorCopy)},
-        {"Operator_Convert(value as String)", kNotYetServed},
-        {"Operator_Convert as String", kNotYetServed},
+        {"Operator_Convert(value as String)", Handler(&L::ConstructorString)},
+        {"Operator_Convert as String", Handler(&T::Operator_ConvertString)},
         {"Operator_Add(other as @) as @", Handler(&A::Operator_Add)},
         {"Operator_AddRight(other as @) as @", Handler(&A::Operator_Add)},
         {"Operator_Subtract(other as @) as @", Handler(&A::Operator_Subtract)},
@@ -112,6 +115,8 @@ template <class N>
 std::vector<ListedMethod> NumberSharedMethods()
 {
     using F = Factories<N>;
+    using T = TextMethods<N>;
+    using V = VariantConversion<N>;
     return {
         {"LibTypeStr as String", Handler(&F::rbLibTypeStr), nullptr, true},
         {"NumberWithInteger(value as Integer) as @", Handler(&F::NumberWithInteger)},
@@ -119,11 +124,11 @@ std::vector<ListedMethod> NumberSharedMethods()
         {"NumberWithInt32(value as Int32) as @", Handler(&F::NumberWithInt32)},
         {"NumberWithUInt64(value as UInt64) as @", Handler(&F::NumberWithUInt64)},
         {"NumberWithUInt32(value as UInt32) as @", Handler(&F::NumberWithUInt32)},
-        {"NumberWithVariant(value as variant) as @", kNotYetServed},
+        {"NumberWithVariant(value as variant) as @", Handler(&V::NumberWithVariant)},
         {"NumberWithSingle(value as single) as @", Handler(&F::NumberWithSingle)},
         {"NumberWithDouble(value as double) as @", Handler(&F::NumberWithDouble)},
         {"NumberWithCurrency(value as Currency) as @", Handler(&F::NumberWithCurrency)},
-        {"NumberWithString(value as String) as @", kNotYetServed},
+        {"NumberWithString(value as String) as @", Handler(&T::NumberWithString)},
         {"Abs(value as @) as @", kNotYetServed},
         {"Sgn(value as @) as @", kNotYetServed},
         {"Root(value as @, index as @) as @", kNotYetServed},
@@ -176,6 +181,8 @@ std::vector<ListedProperty> NumberProperties()
 {
     using P = NativeProperties<N>;
     using D = RawData<N>;
+    using T = TextMethods<N>;
+    using V = VariantConversion<N>;
     return {
         {"IsZero", "Boolean", Handler(&P::IsZero), nullptr},
         {"IsNegative", "Boolean", Handler(&P::IsSign), nullptr},
@@ -185,9 +192,9 @@ std::vector<ListedProperty> NumberProperties()
         {"Int64Value", "Int64", Handler(&P::GetInt64Value), Handler(&P::SetInt64Value)},
         {"UInt64Value", "UInt64", Handler(&P::GetUInt64Value), Handler(&P::SetUInt64Value)},
         {"DoubleValue", "Double", Handler(&P::GetDoubleValue), Handler(&P::SetDoubleValue)},
-        {"StringValue", "String", kNotYetServed, kNotYetServed},
+        {"StringValue", "String", Handler(&T::GetStringValue), Handler(&T::SetStringValue)},
         {"CurrencyValue", "Currency", Handler(&P::GetCurrencyValue), Handler(&P::SetCurrencyValue)},
-        {"VariantValue", "Variant", kNotYetServed, kNotYetServed},
+        {"VariantValue", "Variant", Handler(&V::GetVariantValue), Handler(&V::SetVariantValue)},
         {"DataMantissa", "MemoryBlock", Handler(&D::GetDataMantissa), Handler(&D::SetDataMantissa)},
         {"DataExponent", "MemoryBlock", Handler(&D::GetDataExponent), Handler(&D::SetDataExponent)},
         {"DataFlags", "Integer", Handler(&D::GetDataFlags), Handler(&D::SetDataFlags)},

@@ -96,6 +96,17 @@ typedef REALobject (*CurrencyToVariantProc)(REALcurrency v);
 typedef REALobject (*BooleanToVariantProc)(RBBoolean v);
 typedef REALobject (*ColorToVariantProc)(RBColor v);
 
+// Reading a variant as one type: "VariantToInt32", "VariantToUInt32", "VariantToInt64",
+// "VariantToUInt64", "VariantToSingle", "VariantToDouble", "VariantToString" (+1). Not
+// every host has them; the variant's value properties say the same.
+typedef int32_t (*VariantToInt32Proc)(REALobject variant);
+typedef uint32_t (*VariantToUInt32Proc)(REALobject variant);
+typedef RBInt64 (*VariantToInt64Proc)(REALobject variant);
+typedef RBUInt64 (*VariantToUInt64Proc)(REALobject variant);
+typedef float (*VariantToSingleProc)(REALobject variant);
+typedef double (*VariantToDoubleProc)(REALobject variant);
+typedef REALstring (*VariantToStringProc)(REALobject variant);
+
 // Memory blocks: "memoryBlockGetPtr", "memoryBlockGetSize", "newMemoryBlock"
 typedef void *(*memoryBlockGetPtrProc)(REALobject block);
 typedef RBInteger (*memoryBlockGetSizeProc)(REALobject block);

@@ -13,7 +13,8 @@ const char * const kUsage =
     "  --plugin PATH       load a plugin library (may be repeated)\n"
     "  --version YYYY.RR   the host version the plugin is told (default 2023.03)\n"
     "  --runtime | --ide   run as a built application (default) or as the IDE\n"
-    "  --hide ENTRY        answer null when the plugin asks for ENTRY (may be repeated)\n"
+    "  --hide ENTRY        answer null when the plugin asks for ENTRY or for the framework\n"
+    "                      function of that name (may be repeated)\n"
     "  --new-runs-constructor  PluginNewInstance also runs a parameterless Constructor\n"
     "  --unterminated-string-data  PluginGetStringData puts no NUL after the bytes\n"
     "exit status: 0 done, 1 unhandled exception, 2 script error, 3 host error, 4 leaks\n";

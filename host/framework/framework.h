@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "host/native/native_call.h"
 #include "host/runtime/runtime.h"
 #include "host/runtime/value.h"
 
@@ -43,6 +44,9 @@ REALobject BoxInVariant(Runtime & rt, const Value & v);
 Value VariantContent(REALobject variant);
 // The code VarType reports.
 int32_t VariantTypeCode(REALobject variant);
+// What a variant holds, read as `kind` the way its value properties read it (numbers
+// from text, text from numbers); a string or object comes with a reference for the caller.
+NativeSlot ReadVariantAs(REALobject variant, TypeKind kind);
 
 // Memory blocks.
 bool IsMemoryBlock(Runtime & rt, REALobject o);

@@ -39,18 +39,8 @@ bool IsBox(REALobject o)
     return o && o->cls->IsA(&Runtime::Current()->Framework(kVariantClassName));
 }
 
-NativeSlot Read(REALobject self, TypeKind kind)
-{
-    Runtime & rt = *Runtime::Current();
-    Value v = ConvertLoosely(rt, VariantContent(self), kind);
-    NativeSlot s = ToSlot(v);
-    if (IsReferenceKind(kind))
-        v.ReleaseReference(); // the caller receives this reference
-    return s;
-}
-
 #define VARIANT_GETTER(Name, Kind, CType, member) \
-    CType Get##Name(REALobject self, RBInteger) { return static_cast<CType>(Read(self, TypeKind::Kind).member); }
+    CType Get##Name(REALobject self, RBInteger) { return static_cast<CType>(ReadVariantAs(self, TypeKind::Kind).member); }
 
 VARIANT_GETTER(String, String, REALstring, p)
 VARIANT_GETTER(Integer, Int64, RBInteger, i64)
@@ -139,6 +129,16 @@ REALclassDefinition gVariantUInt32 = MakeRecord(kVariantUInt32ClassName, kVarian
 REALclassDefinition gVariantUInt64 = MakeRecord(kVariantUInt64ClassName, kVariantClassName);
 
 } // namespace
+
+NativeSlot ReadVariantAs(REALobject variant, TypeKind kind)
+{
+    Runtime & rt = *Runtime::Current();
+    Value v = ConvertLoosely(rt, VariantContent(variant), kind);
+    NativeSlot s = ToSlot(v);
+    if (IsReferenceKind(kind))
+        v.ReleaseReference(); // the caller receives this reference
+    return s;
+}
 
 void RegisterVariantClasses(Runtime & rt)
 {

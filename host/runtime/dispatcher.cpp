@@ -82,9 +82,14 @@ Value Invoke(Runtime & rt, const MethodInfo & method, REALproc handler, REALobje
     Accounting::Scope scope(rt.accounting, method.QualifiedName());
     rt.native().Call(handler, SignatureOf(sig, withObject, assigned != nullptr), natives, result);
     WriteBack(sig, args, byRef);
-    if (assigned || !sig.result || rt.Pending() != pendingBefore)
+    if (assigned || !sig.result)
         return Value();
-    return FromSlot(*sig.result, result, true);
+    // The caller owns what a handler hands back. After a raise it is discarded, and
+    // dropping it releases that reference.
+    Value handedBack = FromSlot(*sig.result, result, true);
+    if (rt.Pending() != pendingBefore)
+        return Value();
+    return handedBack;
 }
 
 // Direct fields: the host reads and writes class data + param itself.
@@ -189,9 +194,10 @@ Value GetProperty(Runtime & rt, const PropertyInfo & p, REALobject self)
     REALobject pendingBefore = rt.Pending();
     Accounting::Scope scope(rt.accounting, p.QualifiedName() + " getter");
     rt.native().Call(p.getter, sig, args, result);
+    Value handedBack = FromSlot(p.type, result, true);
     if (rt.Pending() != pendingBefore)
-        return Value();
-    return FromSlot(p.type, result, true);
+        return Value(); // discarded after a raise, and so released
+    return handedBack;
 }
 
 void SetProperty(Runtime & rt, const PropertyInfo & p, REALobject self, const Value & value)

@@ -128,9 +128,12 @@ std::vector<const MethodInfo *> AllNamed(const ClassInfo & cls, const char * pro
 
 void * LoadGlobalMethod(const char *, const char * prototype)
 {
-    return Guarded<void *>("REALLoadGlobalMethod", nullptr, [&](Runtime & rt) {
+    return Guarded<void *>("REALLoadGlobalMethod", nullptr, [&](Runtime & rt) -> void * {
         const ClassInfo & module = rt.Framework(kFrameworkModuleName);
-        return MatchDeclaration(rt, "REALLoadGlobalMethod", prototype, AllNamed(module, prototype, true));
+        std::vector<const MethodInfo *> candidates = AllNamed(module, prototype, true);
+        if (!candidates.empty() && rt.IsHidden(candidates.front()->signature.name))
+            return nullptr;
+        return MatchDeclaration(rt, "REALLoadGlobalMethod", prototype, candidates);
     });
 }
 

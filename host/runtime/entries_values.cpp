@@ -115,6 +115,27 @@ TO_VARIANT(BooleanToVariant, "BooleanToVariant", RBBoolean, Value::Boolean(v != 
 TO_VARIANT(ColorToVariant, "ColorToVariant", RBColor, Value::Unsigned(TypeKind::Color, v))
 #undef TO_VARIANT
 
+// Reading a variant as one type, as its value properties do.
+#define FROM_VARIANT(Function, Entry, CType, Kind, member)                                          \
+    CType Function(REALobject v)                                                                   \
+    {                                                                                              \
+        const char * entry = Entry;                                                                \
+        return Guarded<CType>(entry, CType(), [&](Runtime & rt) -> CType {                         \
+            if (!v || !rt.ValidObject(v, entry))                                                   \
+                return CType();                                                                    \
+            return static_cast<CType>(ReadVariantAs(v, TypeKind::Kind).member);                     \
+        });                                                                                        \
+    }
+
+FROM_VARIANT(VariantToInt32, "VariantToInt32", int32_t, Int32, i32)
+FROM_VARIANT(VariantToUInt32, "VariantToUInt32", uint32_t, UInt32, u32)
+FROM_VARIANT(VariantToInt64, "VariantToInt64", RBInt64, Int64, i64)
+FROM_VARIANT(VariantToUInt64, "VariantToUInt64", RBUInt64, UInt64, u64)
+FROM_VARIANT(VariantToSingle, "VariantToSingle", float, Single, f)
+FROM_VARIANT(VariantToDouble, "VariantToDouble", double, Double, d)
+FROM_VARIANT(VariantToString, "VariantToString", REALstring, String, p)
+#undef FROM_VARIANT
+
 // --- memory blocks
 
 void * MemoryBlockGetPtr(REALobject block)
@@ -172,6 +193,13 @@ const EntryRow kRows[] = {
     {"CurrencyToVariant", Address<CurrencyToVariantProc>(&CurrencyToVariant)},
     {"BooleanToVariant", Address<BooleanToVariantProc>(&BooleanToVariant)},
     {"ColorToVariant", Address<ColorToVariantProc>(&ColorToVariant)},
+    {"VariantToInt32", Address<VariantToInt32Proc>(&VariantToInt32)},
+    {"VariantToUInt32", Address<VariantToUInt32Proc>(&VariantToUInt32)},
+    {"VariantToInt64", Address<VariantToInt64Proc>(&VariantToInt64)},
+    {"VariantToUInt64", Address<VariantToUInt64Proc>(&VariantToUInt64)},
+    {"VariantToSingle", Address<VariantToSingleProc>(&VariantToSingle)},
+    {"VariantToDouble", Address<VariantToDoubleProc>(&VariantToDouble)},
+    {"VariantToString", Address<VariantToStringProc>(&VariantToString)},
     {"memoryBlockGetPtr", Address<memoryBlockGetPtrProc>(&MemoryBlockGetPtr)},
     {"memoryBlockGetSize", Address<memoryBlockGetSizeProc>(&MemoryBlockGetSize)},
     {"newMemoryBlock", Address<newMemoryBlockProc>(&NewMemoryBlock)},

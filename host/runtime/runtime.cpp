@@ -221,7 +221,7 @@ void * Runtime::Resolve(const char * name)
     if (!name)
         return nullptr;
     requested_.emplace_back(name);
-    if (hidden_.count(name))
+    if (IsHidden(name))
         return nullptr;
     return FindEntry(name);
 }

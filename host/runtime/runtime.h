@@ -82,7 +82,10 @@ public:
     REALobject Pending() const { return pending_; }
 
     // Entries.
+    // A hidden name is unknown to the resolver and, for a framework function, to
+    // REALLoadGlobalMethod.
     void HideEntry(const std::string & name) { hidden_.insert(name); }
+    bool IsHidden(const std::string & name) const { return hidden_.count(name) != 0; }
     void * Resolve(const char * name);
     const std::vector<std::string> & Requested() const { return requested_; }
     std::optional<int> pluginVersion;

@@ -104,6 +104,36 @@ TEST(Entries, VariantAccessorsConvertAsVariantsDo)
     EXPECT_TRUE(host.Leaks().empty());
 }
 
+TEST(Entries, VariantReadersConvertLikeTheValuePropertiesAndHidingAFunctionHidesItFromLookups)
+{
+    Host host;
+    REALstring digits = Utf8("-12.75");
+    REALobject text = Entry<StringToVariantProc>("StringToVariant")(digits);
+    REALobject big = Entry<UInt64ToVariantProc>("UInt64ToVariant")(0xFFFFFFFFFFFFFFFFu);
+    EXPECT_EQ(Entry<VariantToInt32Proc>("VariantToInt32")(text), -12);
+    EXPECT_EQ(Entry<VariantToDoubleProc>("VariantToDouble")(text), -12.75);
+    EXPECT_EQ(Entry<VariantToSingleProc>("VariantToSingle")(text), -12.75f);
+    EXPECT_EQ(Entry<VariantToUInt64Proc>("VariantToUInt64")(big), 0xFFFFFFFFFFFFFFFFu);
+    EXPECT_EQ(Entry<VariantToInt64Proc>("VariantToInt64")(big), -1);
+    EXPECT_EQ(Entry<VariantToUInt32Proc>("VariantToUInt32")(big), 0xFFFFFFFFu);
+    REALstring back = Entry<VariantToStringProc>("VariantToString")(big);
+    EXPECT_EQ(Runtime::Bytes(back), "18446744073709551615");
+    EXPECT_EQ(Entry<VariantToInt32Proc>("VariantToInt32")(nullptr), 0);
+
+    const char * varType = "VarType(value As Variant) As Integer";
+    auto load = Entry<REALLoadGlobalMethodProc>("REALLoadGlobalMethod");
+    EXPECT_NE(load(nullptr, varType), nullptr);
+    host.HideEntry("VarType");
+    EXPECT_EQ(load(nullptr, varType), nullptr);
+    EXPECT_NE(load(nullptr, "LenB( s as string ) as integer"), nullptr);
+
+    Release(back);
+    Release(text);
+    Release(big);
+    Release(digits);
+    EXPECT_TRUE(host.Leaks().empty());
+}
+
 REALobject NewException(const char * className, const char * message)
 {
     REALobject e = Entry<PluginNewInstanceProc>("PluginNewInstance")(className);

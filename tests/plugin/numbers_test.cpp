@@ -171,6 +171,28 @@ TEST_F(NumberObjects, LibTypeStrIsTheBackEndsNameInAscii)
     }
 }
 
+// A text whose exponent leaves the range raises the constructor's failure, and the
+// object is handed back all the same with what the parse left in it (a script never
+// sees it: the host drops the result of a call that raised).
+TEST_F(NumberObjects, NumberWithStringBeyondTheRangeRaisesAndStillHandsBackTheObject)
+{
+    LoadOrFail();
+    for (const char * name : {"BigNumberZQT", "BiggerNumberZQT"}) {
+        SCOPED_TRACE(name);
+        const ClassInfo & c = Class(name);
+        const std::string beyond_both_ranges = "1e" + std::string(200, '9');
+        REALstring text = host.runtime().NewString(beyond_both_ranges, kREALTextEncodingUTF8);
+        REALobject made = Method<REALobject (*)(REALstring)>(c, "NumberWithString", true)(text);
+        host.runtime().UnlockString(text, "test");
+        Raised raised = TakeRaised(host);
+        EXPECT_EQ(raised.className, "BigNumberErrorExceptionZQT");
+        EXPECT_EQ(raised.message, "Constructor operation failed.");
+        ASSERT_NE(made, nullptr);
+        EXPECT_EQ(Getter<RBInteger (*)(REALobject, RBInteger)>(c, "DataFlags")(made, 0) & 0x40, 0x40);
+        host.runtime().UnlockObject(made, "test");
+    }
+}
+
 TEST_F(NumberObjects, AHostThatConstructsNewObjectsLeavesNothingBehind)
 {
     host.Settings().newInstanceRunsConstructor = true;
