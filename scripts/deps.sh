@@ -4,7 +4,8 @@
 set -eu
 
 PACKAGES="cmake make g++ clang libclang-rt-dev libgtest-dev libgmock-dev libbenchmark-dev \
-libmpfr-dev libgmp-dev libboost-dev libffi-dev zip unzip xz-utils"
+libmpfr-dev libgmp-dev libboost-dev libffi-dev zip unzip xz-utils \
+g++-aarch64-linux-gnu qemu-user g++-mingw-w64-x86-64 wine64 cmark-gfm"
 
 missing=""
 for p in $PACKAGES; do

@@ -40,6 +40,7 @@ struct PropertyInfo {
     const ClassInfo * owner = nullptr;
     std::string name;
     TypeRef type;
+    std::string declaredType;  // as the row spells it ("Integer" where `type` is Int64)
     uint32_t flags = 0;
     REALproc getter = nullptr;
     REALproc setter = nullptr;

@@ -128,6 +128,7 @@ void ReadProperties(Runtime & rt, ClassInfo & cls, const REALproperty * list, si
         p.name = row.name;
         if (!row.type || !ParseTypeName(row.type, p.type) || !InfoOf(p.type.kind).inDeclarations)
             Reject(where + " has the type \"" + Text(row.type) + "\", which is not a type");
+        p.declaredType = row.type;
         if (!row.getter && !row.setter)
             Reject(where + " has neither a getter nor a setter");
         p.getter = row.getter;
