@@ -17,6 +17,7 @@
 #include "correct_rounding.h"
 #include "series_constants.h"
 #include "series_evaluation.h"
+#include "wide_products.h"
 
 namespace ttmath {
 namespace wide {
@@ -63,10 +64,10 @@ uint ExpM1(WideFloat<C> & a, const WideFloat<C> & r, std::size_t n)
     // a = x (1 + x/2! + x^2/3! + ...)
     WideFloat<C> sum;
     SumSeries(sum, x, terms, ExpRatio, n);
-    Mul(a, sum, x, n);
+    MulTop(a, sum, x, n);
     // e^(2y) - 1 = a (a + 2)
     for (sint i = 0; i < s; ++i) {
-        Mul(t, a, a, n);
+        SqrTop(t, a, n);
         a.Shift(1);
         Add(a, a, t, n);
     }

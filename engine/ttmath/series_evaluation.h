@@ -8,6 +8,7 @@
 #define TTMATH_SERIES_EVALUATION_H
 
 #include "wide_float.h"
+#include "wide_products.h"
 #include "work_meter.h"
 
 namespace ttmath {
@@ -64,8 +65,12 @@ void SumSeries(WideFloat<C> & f, const WideFloat<C> & x, sint terms, SeriesRatio
     WideFloat<C> powers[max_block_terms + 1];
     powers[1] = x;
     powers[1].Resize(n);
-    for (std::size_t k = 2; k <= m; ++k)
-        Mul(powers[k], powers[k - 1], powers[1], n);
+    for (std::size_t k = 2; k <= m; ++k) {
+        if (k % 2 == 0)
+            SqrTop(powers[k], powers[k / 2], n);
+        else
+            MulTop(powers[k], powers[k - 1], powers[1], n);
+    }
     WideFloat<C> h, t;
     f.SetZero(n);
     const sint ms = static_cast<sint>(m);
@@ -75,7 +80,7 @@ void SumSeries(WideFloat<C> & f, const WideFloat<C> & x, sint terms, SeriesRatio
             uint mag;
             bool neg;
             RatioProduct(q, j * ms + ms, j * ms + 2 * ms - 1, mag, neg);
-            Mul(t, f, powers[m], n);
+            MulTop(t, f, powers[m], n);
             DivWord(f, t, mag, n);
             if (neg)
                 f.Negate();
