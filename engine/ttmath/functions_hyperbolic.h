@@ -58,7 +58,9 @@ template<uint exp, uint man>
 uint DirectHyperbolic(Approximation<exp, man> & out, Hyperbolic which, const Argument<exp, man> & a, std::size_t n)
 {
     typedef typename Work<exp, man>::Float Float;
-    const std::size_t wp = n + 1;
+    // no step cancels more than a bit (e^-|x| <= e^-1/2 where it is subtracted), so
+    // the round's own words suffice
+    const std::size_t wp = n;
     Float x, t, u, one, two;
     a.ToWide(x, wp);
     x.neg = false;
