@@ -17,6 +17,7 @@
 #include "correct_rounding.h"
 #include "series_constants.h"
 #include "series_evaluation.h"
+#include "wide_products.h"
 
 namespace ttmath {
 namespace wide {
@@ -63,10 +64,10 @@ uint ExpM1(WideFloat<C> & a, const WideFloat<C> & r, std::size_t n)
     // a = x (1 + x/2! + x^2/3! + ...)
     WideFloat<C> sum;
     SumSeries(sum, x, terms, ExpRatio, n);
-    Mul(a, sum, x, n);
+    MulTop(a, sum, x, n);
     // e^(2y) - 1 = a (a + 2)
     for (sint i = 0; i < s; ++i) {
-        Mul(t, a, a, n);
+        SqrTop(t, a, n);
         a.Shift(1);
         Add(a, a, t, n);
     }
@@ -143,6 +144,45 @@ uint ExpSplit(Approximation<exp, man> & out, const typename Work<exp, man>::Floa
 
 // The most terms of ln(1 + c) one Newton step of Log1p sums.
 const sint log1p_max_terms = 16;
+// Terms of the last step when the target takes more than one: its e^-y at the full
+// precision dominates, so the steps before it only reach a fraction of the target
+// (1 / (terms + 1)), at a precision whose e^-y costs little.
+const sint log1p_last_terms = 4;
+
+// The least common multiple of 1 .. k for k <= log1p_max_terms (fits a word).
+inline uint LcmUpTo(sint k)
+{
+    uint l = 1;
+    for (sint i = 2; i <= k; ++i) {
+        uint a = l, b = static_cast<uint>(i);
+        while (b) {
+            uint r = a % b;
+            a = b;
+            b = r;
+        }
+        l = l / a * static_cast<uint>(i);
+    }
+    return l;
+}
+
+// y = ln(1 + c) = c (1 - c/2 + c^2/3 - ...) to the c^terms term at wp words, as
+// c S / L with L = lcm(1 .. terms) and S = L - c (L/2 - c (L/3 - ...)): integer
+// coefficients, one product and one subtraction a term, one division at the end.
+template<std::size_t C>
+void Log1pTerms(WideFloat<C> & y, const WideFloat<C> & c, sint terms, std::size_t wp)
+{
+    const uint l = LcmUpTo(terms);
+    WideFloat<C> sum, t, k;
+    sum.SetWord(l / static_cast<uint>(terms), wp);
+    for (sint i = terms - 1; i >= 1; --i) {
+        // sum = L/i - c sum
+        MulTop(t, c, sum, wp);
+        k.SetWord(l / static_cast<uint>(i), wp);
+        Sub(sum, k, t, wp);
+    }
+    MulTop(t, c, sum, wp);
+    DivWord(y, t, l, wp);
+}
 
 // ln(1 + u) for u in [-0.3, 0.42] at n words; returns the error bound in ulps.
 template<std::size_t C>
@@ -162,20 +202,25 @@ uint Log1p(WideFloat<C> & y, const WideFloat<C> & u, std::size_t n)
     // start: u times ln(1 + u)/u in double precision, about 48 correct bits
     const double ud = u.ToDouble();
     const double ratio = ud == 0.0 || std::fabs(ud) < 1e-300 ? 1.0 : std::log1p(ud) / ud;
-    WideFloat<C> g, a, c, t, sum, one;
+    WideFloat<C> g, a, c, t, l;
     g.FromDouble(ratio, 2);
     Mul(y, u, g, 2);
     sint acc = 48;
-    // each step: c = (1 + u) e^-y - 1, y += ln(1 + c) to the c^terms term, enough terms
-    // (up to a limit) to reach the target in one step: the terms are cheap, e^-y is not
+    // each step: c = (1 + u) e^-y - 1, y += ln(1 + c) to the c^terms term (a step with
+    // `terms` terms turns acc correct bits into about acc (terms + 1))
+    const sint before_last = (target + 8 + log1p_last_terms) / (log1p_last_terms + 1);
     std::size_t steps = 0;
     while (acc < target) {
-        sint terms = (target + 8 + acc - 1) / acc - 1;
+        // the whole target in one step when few enough terms do it, else the bits the
+        // last step needs
+        const bool one_step = (target + 8 + acc - 1) / acc - 1 <= log1p_max_terms;
+        const sint goal = one_step || acc >= before_last ? target : before_last;
+        sint terms = (goal + 8 + acc - 1) / acc - 1;
         if (terms > log1p_max_terms)
             terms = log1p_max_terms;
         sint next = acc * (terms + 1) - 8;
-        if (next > target)
-            next = target;
+        if (next > goal)
+            next = goal;
         std::size_t wp = static_cast<std::size_t>(next / static_cast<sint>(word_bits)) + 2;
         if (wp > n)
             wp = n;
@@ -184,22 +229,12 @@ uint Log1p(WideFloat<C> & y, const WideFloat<C> & u, std::size_t n)
         my.Negate();
         ExpM1(a, my, wp);
         // c = u + a + u a
-        Mul(t, u, a, wp);
+        MulTop(t, u, a, wp);
         Add(c, u, a, wp);
         Add(c, c, t, wp);
-        // ln(1 + c) = c (1 - c (1/2 - c (1/3 - ...)))
-        sum.SetZero(wp);
-        one.SetOne(wp);
-        for (sint i = terms; i >= 1; --i) {
-            // sum = 1/i - c sum
-            WideFloat<C> inv;
-            DivWord(inv, one, static_cast<uint>(i), wp);
-            Mul(t, c, sum, wp);
-            Sub(sum, inv, t, wp);
-        }
-        Mul(t, c, sum, wp);
+        Log1pTerms(l, c, terms, wp);
         y.Resize(wp);
-        Add(y, y, t, wp);
+        Add(y, y, l, wp);
         acc = next;
         ++steps;
     }

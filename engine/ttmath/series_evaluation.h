@@ -8,6 +8,8 @@
 #define TTMATH_SERIES_EVALUATION_H
 
 #include "wide_float.h"
+#include "series_fixed_point.h"
+#include "wide_products.h"
 #include "work_meter.h"
 
 namespace ttmath {
@@ -45,7 +47,10 @@ inline bool RatioProduct(SeriesRatio q, sint a, sint b, uint & magnitude, bool &
     return true;
 }
 
-// F / c_0 = sum_{i < T} x^i / q(1) ... q(i), at n words (T rounded up to whole blocks).
+// F / c_0 = sum_{i < T} x^i / q(1) ... q(i), at n words (T rounded up to whole blocks),
+// for |x| < 1. The blocks are summed in fixed point with one word more than n below
+// the point: each |F'_j| is below 2^64 and at least about its first term, so the
+// fixed point keeps its relative precision, and a term costs one multiply-accumulate.
 template<std::size_t C>
 void SumSeries(WideFloat<C> & f, const WideFloat<C> & x, sint terms, SeriesRatio q, std::size_t n)
 {
@@ -60,43 +65,54 @@ void SumSeries(WideFloat<C> & f, const WideFloat<C> & x, sint terms, SeriesRatio
     }
     const sint blocks = (terms + static_cast<sint>(m) - 1) / static_cast<sint>(m);
     Meter().Series(static_cast<std::size_t>(blocks) * m);
-    // powers[k] = x^k, k = 1 .. m
+    // powers[k] = x^k, k = 1 .. m, and fixed[k] their magnitudes in fixed point
+    const std::size_t frac = n + 1;
     WideFloat<C> powers[max_block_terms + 1];
+    uint fixed[max_block_terms + 1][C + 2];
     powers[1] = x;
     powers[1].Resize(n);
-    for (std::size_t k = 2; k <= m; ++k)
-        Mul(powers[k], powers[k - 1], powers[1], n);
-    WideFloat<C> h, t;
-    f.SetZero(n);
+    for (std::size_t k = 2; k <= m; ++k) {
+        if (k % 2 == 0)
+            SqrTop(powers[k], powers[k / 2], n);
+        else
+            MulTop(powers[k], powers[k - 1], powers[1], n);
+    }
+    for (std::size_t k = 1; k < m; ++k)
+        ToFixed(fixed[k], powers[k], frac, frac);
+    uint acc[C + 4];
+    words::fill(acc, frac + 2, 0);
+    WideFloat<C> t;
     const sint ms = static_cast<sint>(m);
+    bool started = false;
     for (sint j = blocks - 1; j >= 0; --j) {
         // F'_j = H_j + x^m F'_{j+1} / Q(jm + m, jm + 2m - 1), H_j = sum_k x^k Q(jm + k + 1, jm + m - 1)
-        if (!f.zero) {
+        if (started) {
             uint mag;
             bool neg;
             RatioProduct(q, j * ms + ms, j * ms + 2 * ms - 1, mag, neg);
-            Mul(t, f, powers[m], n);
-            DivWord(f, t, mag, n);
-            if (neg)
-                f.Negate();
+            FromFixed(t, acc, frac, n);
+            MulTop(t, t, powers[m], n);
+            DivWord(t, t, mag, n);
+            ToFixed(acc, t, frac, frac + 2);
+            if (t.neg != neg)
+                NegateWords(acc, frac + 2);
         }
+        started = true;
         for (sint k = ms - 1; k >= 0; --k) {
             uint mag;
             bool neg;
             RatioProduct(q, j * ms + k + 1, j * ms + ms - 1, mag, neg);
             if (k == 0)
-                h.SetWord(mag, n);
+                AccumulateInteger(acc, frac, mag, neg);
             else
-                MulWord(h, powers[k], mag, n);
-            if (neg)
-                h.Negate();
-            Add(f, f, h, n);
+                AccumulateTerm(acc, fixed[k], frac, mag, neg != powers[k].neg);
         }
     }
     // F / c_0 = F'_0 / Q(1, m - 1)
     uint mag;
     bool neg;
     RatioProduct(q, 1, ms - 1, mag, neg);
+    FromFixed(f, acc, frac, n);
     DivWord(f, f, mag, n);
     if (neg)
         f.Negate();
