@@ -1,0 +1,184 @@
+// Exact integer square roots of word arrays with their remainders: s = floor(sqrt(a))
+// and r = a - s^2 for a 2n-word a, by divide and conquer. With a split into a high
+// part A of 2h words and two low parts a1, a0 of l words (h = n - l >= l, β = 2^64):
+//
+//     (s', r') = root and remainder of A           (h words)
+//     (q, u)   = (r' β^l + a1) divided by 2 s'     (l words, q <= β^l)
+//     s = s' β^l + q,   r = u β^l + a0 - q^2
+//
+// and when r < 0, s - 1 and r + 2 s - 1 are the answer. A's top word must be at least
+// 2^62 (its root then has its top bit set); the one-word roots at the bottom come from
+// a double estimate refined by one Newton step on the exact residual. The remainder
+// decides rounding exactly: r = 0 for exact roots, and sqrt(a) > s + 1/2 when r > s.
+#ifndef TTMATH_INTEGER_SQRT_H
+#define TTMATH_INTEGER_SQRT_H
+
+#include <cmath>
+#include <cstddef>
+
+#include "kernels.h"
+#include "product.h"
+#include "quotient.h"
+#include "words.h"
+
+namespace ttmath {
+namespace integer_sqrt {
+
+// Scratch words the recursion needs for an n-word root: each level keeps its
+// remainder of the high part, the dividend, the quotient, the divider's remainder, the
+// square of the quotient, the signed remainder and the division's own scratch.
+constexpr std::size_t scratch_words(std::size_t n)
+{
+    return n <= 1 ? 0 : 8 * n + 16 + scratch_words(n - n / 2);
+}
+
+// The lowest value the top word of a normalised radicand may have.
+const uint min_top_word = uint(1) << 62;
+
+// Root s of the two-word a1:a0 (a1 >= 2^62), with the remainder r1:r0 (r1 is 0 or 1).
+inline uint word_root(uint a1, uint a0, uint & r1, uint & r0)
+{
+    const double word_scale = 0x1p64;
+    const double estimate = std::sqrt(static_cast<double>(a1) * word_scale + static_cast<double>(a0));
+    uint s = estimate >= word_scale ? TTMATH_UINT_MAX_VALUE : static_cast<uint>(estimate);
+    // The estimate is within about 2^12 of the root; one Newton step on the exact
+    // residual e = a - s^2 (|e| < 2^80, two's complement in two words) leaves it
+    // within one or two.
+    uint p1, p0;
+    kernel::mul_ww(s, s, p1, p0);
+    const uint e0 = a0 - p0;
+    const uint e1 = a1 - p1 - (a0 < p0 ? 1 : 0);
+    const double e = static_cast<double>(static_cast<sint>(e1)) * word_scale + static_cast<double>(e0);
+    const double step = std::floor(e / (2.0 * static_cast<double>(s)) + 0.5);
+    if (step < 0)
+        s -= static_cast<uint>(-step);
+    else if (static_cast<double>(TTMATH_UINT_MAX_VALUE - s) < step)
+        s = TTMATH_UINT_MAX_VALUE;
+    else
+        s += static_cast<uint>(step);
+    // s^2 <= a
+    for (;;) {
+        kernel::mul_ww(s, s, p1, p0);
+        if (p1 < a1 || (p1 == a1 && p0 <= a0))
+            break;
+        --s;
+    }
+    r0 = a0 - p0;
+    r1 = a1 - p1 - (a0 < p0 ? 1 : 0);
+    // (s + 1)^2 > a, that is r <= 2 s
+    for (;;) {
+        const uint t1 = s >> 63, t0 = s << 1;
+        if (r1 < t1 || (r1 == t1 && r0 <= t0))
+            break;
+        // r -= 2 s + 1
+        const uint b0 = r0 < t0 ? 1 : 0;
+        r0 -= t0;
+        r1 -= t1 + b0;
+        r1 -= r0 == 0 ? 1 : 0;
+        r0 -= 1;
+        ++s;
+    }
+    return s;
+}
+
+// s[0 .. n) = floor(sqrt(a)) and r[0 .. n] = a - s^2 (at most 2 s, so r[n] is 0 or 1)
+// for the 2n-word a with a[2n - 1] >= 2^62. scratch holds scratch_words(n) words; no
+// output may overlap a.
+inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * scratch)
+{
+    if (n == 1) {
+        s[0] = word_root(a[1], a[0], r[1], r[0]);
+        return;
+    }
+    const std::size_t l = n / 2, h = n - l;
+    uint * rh = scratch;          // r', h + 1 words
+    uint * d = rh + h + 1;        // the dividend, n + 1 words
+    uint * q = d + n + 1;         // the quotient, l + 2 words
+    uint * u = q + l + 2;         // the divider's remainder, h words
+    uint * sq = u + h;            // q^2, 2 l + 1 words
+    uint * t = sq + 2 * l + 1;    // the signed remainder, n + 2 words
+    uint * div_scratch = t + n + 2; // n + 2 + h words
+    uint * deeper = div_scratch + n + 2 + h;
+
+    uint * sh = s + l; // s' goes straight into the top of s
+    sqrt_rem(sh, rh, a + 2 * l, h, deeper);
+
+    // (q, u) = (r' β^l + a1) / (2 s'), from floor((r' β^l + a1) / 2) / s', which keeps
+    // the divisor's top bit set; the halving's lost bit comes back into u.
+    words::copy(d, a + l, l);
+    words::copy(d + l, rh, h + 1);
+    const uint lost = d[0] & 1;
+    words::shr_bits(d, d, n + 1, 1);
+    quotient::floor_quotient(q, d, n + 1, sh, h, div_scratch, u);
+    // q <= β^l: q[l] is 0 or 1, and q[l + 1] is 0
+
+    // t = u β^l + a0 with u = 2 u + lost, in n + 2 words
+    words::copy(t, a, l);
+    words::copy(t + l, u, h);
+    t[n] = 0;
+    t[n + 1] = 0;
+    t[n] = words::shl_bits(t + l, t + l, h, 1);
+    t[l] |= lost;
+
+    // t -= q^2
+    if (q[l]) {
+        // q = β^l: q^2 = β^(2l)
+        uint * p = t + 2 * l;
+        for (std::size_t i = 2 * l; i < n + 2; ++i, ++p) {
+            const uint before = *p;
+            *p = before - 1;
+            if (before != 0)
+                break;
+        }
+    } else {
+        product::schoolbook(sq, q, l, q, l);
+        uint borrow = kernel::sub_n(t, t, sq, 2 * l, 0);
+        for (std::size_t i = 2 * l; borrow && i < n + 2; ++i) {
+            const uint before = t[i];
+            t[i] = before - 1;
+            borrow = before == 0 ? 1 : 0;
+        }
+    }
+
+    // s = s' β^l + q, with a carry word for q = β^l
+    words::copy(s, q, l);
+    uint s_top = 0;
+    if (q[l]) {
+        uint c = 1;
+        for (std::size_t i = l; c && i < n; ++i) {
+            s[i] += 1;
+            c = s[i] == 0 ? 1 : 0;
+        }
+        s_top = c;
+    }
+
+    // while t < 0: s -= 1, t += 2 s + 1
+    while (t[n + 1] & TTMATH_UINT_HIGHEST_BIT) {
+        uint b = 1;
+        for (std::size_t i = 0; b && i < n; ++i) {
+            const uint before = s[i];
+            s[i] = before - 1;
+            b = before == 0 ? 1 : 0;
+        }
+        s_top -= b;
+        uint c = kernel::add_n(t, t, s, n, 0);
+        c += kernel::add_n(t, t, s, n, 0);
+        c += 2 * s_top;
+        // + 1
+        uint one = 1;
+        for (std::size_t i = 0; one && i < n; ++i) {
+            t[i] += 1;
+            one = t[i] == 0 ? 1 : 0;
+        }
+        c += one;
+        const uint before = t[n];
+        t[n] = before + c;
+        t[n + 1] += t[n] < before ? 1 : 0;
+    }
+    words::copy(r, t, n + 1);
+}
+
+} // namespace integer_sqrt
+} // namespace ttmath
+
+#endif
