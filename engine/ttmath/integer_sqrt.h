@@ -18,7 +18,7 @@
 
 #include "kernels.h"
 #include "product.h"
-#include "quotient.h"
+#include "reciprocal.h"
 #include "words.h"
 
 namespace ttmath {
@@ -26,10 +26,10 @@ namespace integer_sqrt {
 
 // Scratch words the recursion needs for an n-word root: each level keeps its
 // remainder of the high part, the dividend, the quotient, the divider's remainder, the
-// square of the quotient, the signed remainder and the division's own scratch.
+// square of the quotient and the signed remainder.
 constexpr std::size_t scratch_words(std::size_t n)
 {
-    return n <= 1 ? 0 : 8 * n + 16 + scratch_words(n - n / 2);
+    return n <= 1 ? 0 : 5 * n + 8 + scratch_words(n - n / 2);
 }
 
 // The lowest value the top word of a normalised radicand may have.
@@ -81,6 +81,63 @@ inline uint word_root(uint a1, uint a0, uint & r1, uint & r0)
     return s;
 }
 
+// One quotient word of the (h + 1)-word w by the h-word d (h >= 2, top bit set, w's top
+// h words below d), from the reciprocal v of d's top words d1, d0; w's low h words
+// become the remainder.
+inline uint quotient_word(uint * w, const uint * d, std::size_t h, uint d1, uint d0, uint v)
+{
+    const uint u2 = w[h], u1 = w[h - 1], u0 = w[h - 2];
+    if (u2 == d1 && u1 == d0) {
+        // the estimate would not fit a word: the quotient word is β - 1 or β - 2
+        uint q = TTMATH_UINT_MAX_VALUE;
+        uint top = w[h] - kernel::submul_1(w, d, h, q);
+        while (top != 0) {
+            --q;
+            top += kernel::add_n(w, w, d, h, 0);
+        }
+        w[h] = 0;
+        return q;
+    }
+    uint t1, t0;
+    uint q = reciprocal::div_3by2(u2, u1, u0, d1, d0, v, t1, t0);
+    const uint borrow = h > 2 ? kernel::submul_1(w, d, h - 2, q) : 0;
+    const uint b0 = t0 < borrow ? 1 : 0;
+    w[h - 2] = t0 - borrow;
+    const uint b1 = t1 < b0 ? 1 : 0;
+    w[h - 1] = t1 - b0;
+    w[h] = 0;
+    if (b1) {
+        // the estimate was one too large
+        --q;
+        kernel::add_n(w, w, d, h, 0);
+    }
+    return q;
+}
+
+// q[0 .. l] = floor(w / d) for the (h + l + 1)-word w whose top h + 1 words are at most
+// the h-word d (top bit set): q[l] is 0 or 1, and then one word a step with one
+// reciprocal for all of them. w's low h words become the remainder.
+inline void quotient_at_most_one_word_over(uint * q, uint * w, std::size_t l, const uint * d, std::size_t h)
+{
+    uint * top = w + l;
+    q[l] = 0;
+    if (top[h] || words::compare(top, d, h) >= 0) {
+        top[h] -= kernel::sub_n(top, top, d, h, 0);
+        q[l] = 1;
+    }
+    if (h == 1) {
+        for (std::size_t j = l; j-- > 0;) {
+            q[j] = kernel::div_ww(w[j + 1], w[j], d[0], w[j]);
+            w[j + 1] = 0;
+        }
+        return;
+    }
+    const uint d1 = d[h - 1], d0 = d[h - 2];
+    const uint v = reciprocal::of_pair(d1, d0);
+    for (std::size_t j = l; j-- > 0;)
+        q[j] = quotient_word(w + j, d, h, d1, d0, v);
+}
+
 // s[0 .. n) = floor(sqrt(a)) and r[0 .. n] = a - s^2 (at most 2 s, so r[n] is 0 or 1)
 // for the 2n-word a with a[2n - 1] >= 2^62. scratch holds scratch_words(n) words; no
 // output may overlap a.
@@ -97,20 +154,20 @@ inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * s
     uint * u = q + l + 2;         // the divider's remainder, h words
     uint * sq = u + h;            // q^2, 2 l + 1 words
     uint * t = sq + 2 * l + 1;    // the signed remainder, n + 2 words
-    uint * div_scratch = t + n + 2; // n + 2 + h words
-    uint * deeper = div_scratch + n + 2 + h;
+    uint * deeper = t + n + 2;
 
     uint * sh = s + l; // s' goes straight into the top of s
     sqrt_rem(sh, rh, a + 2 * l, h, deeper);
 
     // (q, u) = (r' β^l + a1) / (2 s'), from floor((r' β^l + a1) / 2) / s', which keeps
-    // the divisor's top bit set; the halving's lost bit comes back into u.
+    // the divisor's top bit set; the halving's lost bit comes back into u. The dividend's
+    // top h + 1 words are floor(r' / 2) <= s', so q <= β^l.
     words::copy(d, a + l, l);
     words::copy(d + l, rh, h + 1);
     const uint lost = d[0] & 1;
     words::shr_bits(d, d, n + 1, 1);
-    quotient::floor_quotient(q, d, n + 1, sh, h, div_scratch, u);
-    // q <= β^l: q[l] is 0 or 1, and q[l + 1] is 0
+    quotient_at_most_one_word_over(q, d, l, sh, h);
+    words::copy(u, d, h);
 
     // t = u β^l + a0 with u = 2 u + lost, in n + 2 words
     words::copy(t, a, l);
