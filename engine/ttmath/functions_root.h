@@ -8,6 +8,7 @@
 #define TTMATH_FUNCTIONS_ROOT_H
 
 #include "functions_power.h"
+#include "truncated_product.h"
 
 namespace ttmath {
 namespace wide {
@@ -18,17 +19,17 @@ const sint root_newton_index_bits = 20;
 const sint root_start_bits = 48;
 
 // p = b^k (k >= 1) at precision n by left-to-right binary powering: squarings at n
-// words and multiplications by b at b's own precision. Each operation truncates; an
-// error made while p = b^e grows k / e fold by the end, so p is off by less than
-// 2k units of 2^(1 - 64 n) relative to b^k.
+// words and multiplications by b at b's own precision. Each operation truncates (by
+// less than 1 + 2^-50 units); an error made while p = b^e grows k / e fold by the end,
+// so p is off by less than 2k units of 2^(1 - 64 n) relative to b^k.
 template<std::size_t C>
 void PowerByWord(WideFloat<C> & p, const WideFloat<C> & b, uint k, std::size_t n)
 {
     p = b;
     for (unsigned bit = words::bits_per_word - 1 - words::clz(k); bit-- > 0;) {
-        Mul(p, p, p, n);
+        MulTruncated(p, p, p, n);
         if ((k >> bit) & 1)
-            Mul(p, p, b, n);
+            MulTruncated(p, p, b, n);
     }
     if (k == 1)
         p.Resize(n);
@@ -90,10 +91,10 @@ uint RootByNewton(Big<exp, man> & result, const Argument<exp, man> & x, uint k, 
             if (wp > n)
                 wp = n;
             PowerByWord(p, z, k, wp);
-            Mul(p, p, a, wp);
+            MulTruncated(p, p, a, wp);
             one.SetOne(wp);
             Sub(p, one, p, wp);
-            Mul(p, p, z, wp);
+            MulTruncated(p, p, z, wp);
             DivWord(p, p, k, wp);
             z.Resize(wp);
             Add(z, z, p, wp);
@@ -105,10 +106,10 @@ uint RootByNewton(Big<exp, man> & result, const Argument<exp, man> & x, uint k, 
         const std::size_t hw = half < z.n ? half : z.n;
         Float t, y, e;
         PowerByWord(t, z, k - 1, hw); // t = z^(k-1)
-        Mul(y, a, t, hw);               // y0
+        MulTruncated(y, a, t, hw); // y0
         PowerByWord(p, y, k, n);
-        Sub(e, a, p, n);                // a - y0^k: the top words cancel
-        Mul(e, e, t, hw);
+        Sub(e, a, p, n); // a - y0^k: the top words cancel
+        MulTruncated(e, e, t, hw);
         DivWord(e, e, k, hw);
         y.Resize(n);
         Add(y, y, e, n);

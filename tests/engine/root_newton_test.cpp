@@ -1,7 +1,8 @@
 // Roots with word indexes (Newton's iteration on the reciprocal root and one last step)
 // against MPFR at both widths: random arguments over a wide exponent range, exact k-th
 // powers, and indexes from 3 up to the largest that takes the iteration, where the
-// step's error grows fastest with k.
+// step's error grows fastest with k. Also the truncated products the iteration uses,
+// against exact products.
 #include <gtest/gtest.h>
 
 #include <ttmath/ttmath.h>
@@ -67,6 +68,62 @@ TYPED_TEST(RootNewton, ExactPowersGiveTheirBase)
         }
     }
     EXPECT_EQ(exact, 4 * 60);
+}
+
+// The truncated product lies below the exact one by less than two units of its last
+// place (two more for each operand longer than the result, cut to its top words), for
+// every pair of operand lengths around the result's (exact, a few columns left out,
+// most columns left out) and mantissas of all ones, where the dropped columns carry
+// the most.
+TEST(TruncatedProduct, IsBelowTheExactProductByLessThanTwoUnits)
+{
+    typedef ttmath::wide::WideFloat<24> F;
+    ForEachKernelChoice([] {
+        Random rng(0x3c6ef372fe94f82bull);
+        for (std::size_t n = 1; n <= 20; ++n) {
+            for (std::size_t na = 1; na <= 20; na += 3) {
+                for (std::size_t nb = 1; nb <= 20; nb += 4) {
+                    for (int round = 0; round < 4; ++round) {
+                        F a, b, r;
+                        a.SetZero(na);
+                        b.SetZero(nb);
+                        for (std::size_t i = 0; i < na; ++i)
+                            a.w[i] = round == 0 ? ~Word(0) : rng.NextWord();
+                        for (std::size_t i = 0; i < nb; ++i)
+                            b.w[i] = round == 0 ? ~Word(0) : rng.NextWord();
+                        a.w[na - 1] |= TTMATH_UINT_HIGHEST_BIT;
+                        b.w[nb - 1] |= TTMATH_UINT_HIGHEST_BIT;
+                        a.zero = b.zero = false;
+                        a.e = rng.Between(-100, 100);
+                        b.e = rng.Between(-100, 100);
+                        b.neg = round % 2 == 1;
+                        ttmath::wide::MulTruncated(r, a, b, n);
+                        ASSERT_EQ(r.n, n);
+                        ASSERT_NE(r.w[n - 1] & TTMATH_UINT_HIGHEST_BIT, 0u);
+                        ASSERT_EQ(r.neg, b.neg);
+                        // exact: A B 2^(ea + eb - 64 (na + nb)); ours: R 2^(er - 64 n)
+                        Mpz za, zb, exact, ours, bound;
+                        WordsToMpz(za.z, a.w, na);
+                        WordsToMpz(zb.z, b.w, nb);
+                        mpz_mul(exact.z, za.z, zb.z);
+                        WordsToMpz(ours.z, r.w, n);
+                        const long shift_exact = a.e + b.e - 64 * static_cast<long>(na + nb);
+                        const long shift_ours = r.e - 64 * static_cast<long>(n);
+                        // bring both to the smaller unit
+                        const long unit = shift_exact < shift_ours ? shift_exact : shift_ours;
+                        mpz_mul_2exp(exact.z, exact.z, static_cast<unsigned long>(shift_exact - unit));
+                        mpz_mul_2exp(ours.z, ours.z, static_cast<unsigned long>(shift_ours - unit));
+                        const unsigned long cuts = (na > n ? 1 : 0) + (nb > n ? 1 : 0);
+                        mpz_set_ui(bound.z, 2 + 2 * cuts);
+                        mpz_mul_2exp(bound.z, bound.z, static_cast<unsigned long>(shift_ours - unit));
+                        ASSERT_LE(mpz_cmp(ours.z, exact.z), 0) << n << " " << na << " " << nb;
+                        mpz_add(ours.z, ours.z, bound.z);
+                        ASSERT_GT(mpz_cmp(ours.z, exact.z), 0) << n << " " << na << " " << nb;
+                    }
+                }
+            }
+        }
+    });
 }
 
 } // namespace

@@ -1,0 +1,80 @@
+// Products of working numbers truncated to n words without the general path's
+// conversions: the operands' top words are read in place, only the columns that reach
+// the kept words are summed, and the normalising shift is one bit at most (the product
+// of two mantissas in [1/2, 1) lies in [1/4, 1)).
+//
+// The columns left out lie more than guard_columns words below the result's last word;
+// with their carries they add less than (number of columns) * 2^-64 units of it. The
+// result is below the exact product by less than 1 + 2^-50 units of its last place;
+// an operand longer than n words is cut to its top n words first, which adds less
+// than two units more.
+#ifndef TTMATH_TRUNCATED_PRODUCT_H
+#define TTMATH_TRUNCATED_PRODUCT_H
+
+#include <cstddef>
+
+#include "kernels.h"
+#include "wide_float.h"
+#include "words.h"
+
+namespace ttmath {
+namespace wide {
+
+// Words of columns summed below the last word the result keeps.
+const std::size_t guard_columns = 2;
+
+// r = a * b truncated to n words; r may be a or b.
+template<std::size_t C>
+void MulTruncated(WideFloat<C> & r, const WideFloat<C> & a, const WideFloat<C> & b, std::size_t n)
+{
+    if (a.zero || b.zero) {
+        r.SetZero(n);
+        return;
+    }
+    // the longer operand runs along the rows
+    const bool a_longer = a.n >= b.n;
+    const WideFloat<C> & u = a_longer ? a : b;
+    const WideFloat<C> & v = a_longer ? b : a;
+    const std::size_t nu = u.n < n ? u.n : n, nv = v.n < n ? v.n : n;
+    const uint * x = u.w + (u.n - nu);
+    const uint * y = v.w + (v.n - nv);
+    const std::size_t len = nu + nv;
+    const std::size_t low = len > n + guard_columns ? len - n - guard_columns : 0;
+    uint p[2 * C];
+    words::fill(p, len, 0);
+    for (std::size_t j = 0; j < nv; ++j) {
+        const std::size_t i0 = j >= low ? 0 : low - j;
+        if (i0 < nu)
+            p[j + nu] = kernel::addmul_1(p + j + i0, x + i0, nu - i0, y[j]);
+    }
+    sint e = a.e + b.e;
+    const bool negative = a.neg != b.neg;
+    r.n = n;
+    r.neg = negative;
+    r.zero = false;
+    if (len <= n) {
+        // exact: the product fills the top len words
+        words::fill(r.w, n - len, 0);
+        words::copy(r.w + (n - len), p, len);
+        if (!(p[len - 1] & TTMATH_UINT_HIGHEST_BIT)) {
+            words::shl_bits(r.w, r.w, n, 1);
+            --e;
+        }
+        r.e = e;
+        return;
+    }
+    const uint * top = p + (len - n);
+    if (p[len - 1] & TTMATH_UINT_HIGHEST_BIT) {
+        words::copy(r.w, top, n);
+    } else {
+        words::shl_bits(r.w, top, n, 1);
+        r.w[0] |= top[-1] >> (words::bits_per_word - 1);
+        --e;
+    }
+    r.e = e;
+}
+
+} // namespace wide
+} // namespace ttmath
+
+#endif
