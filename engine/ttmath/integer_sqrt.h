@@ -17,7 +17,7 @@
 #include <cstddef>
 
 #include "kernels.h"
-#include "product.h"
+#include "square_columns.h"
 #include "reciprocal.h"
 #include "words.h"
 
@@ -188,7 +188,7 @@ inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * s
                 break;
         }
     } else {
-        product::schoolbook(sq, q, l, q, l);
+        square::upper_columns(sq, q, l, 0);
         uint borrow = kernel::sub_n(t, t, sq, 2 * l, 0);
         for (std::size_t i = 2 * l; borrow && i < n + 2; ++i) {
             const uint before = t[i];

@@ -1,7 +1,8 @@
 // Products of working numbers truncated to n words without the general path's
 // conversions: the operands' top words are read in place, only the columns that reach
-// the kept words are summed, and the normalising shift is one bit at most (the product
-// of two mantissas in [1/2, 1) lies in [1/4, 1)).
+// the kept words are summed (a square forms each product of two different words once),
+// and the normalising shift is one bit at most (the product of two mantissas in
+// [1/2, 1) lies in [1/4, 1)).
 //
 // The columns left out lie more than guard_columns words below the result's last word;
 // with their carries they add less than (number of columns) * 2^-64 units of it. The
@@ -14,6 +15,7 @@
 #include <cstddef>
 
 #include "kernels.h"
+#include "square_columns.h"
 #include "wide_float.h"
 #include "words.h"
 
@@ -41,11 +43,15 @@ void MulTruncated(WideFloat<C> & r, const WideFloat<C> & a, const WideFloat<C> &
     const std::size_t len = nu + nv;
     const std::size_t low = len > n + guard_columns ? len - n - guard_columns : 0;
     uint p[2 * C];
-    words::fill(p, len, 0);
-    for (std::size_t j = 0; j < nv; ++j) {
-        const std::size_t i0 = j >= low ? 0 : low - j;
-        if (i0 < nu)
-            p[j + nu] = kernel::addmul_1(p + j + i0, x + i0, nu - i0, y[j]);
+    if (&a == &b) {
+        square::upper_columns(p, x, nu, low);
+    } else {
+        words::fill(p, len, 0);
+        for (std::size_t j = 0; j < nv; ++j) {
+            const std::size_t i0 = j >= low ? 0 : low - j;
+            if (i0 < nu)
+                p[j + nu] = kernel::addmul_1(p + j + i0, x + i0, nu - i0, y[j]);
+        }
     }
     sint e = a.e + b.e;
     const bool negative = a.neg != b.neg;
