@@ -25,14 +25,20 @@ const sint root_start_bits = 48;
 template<std::size_t C>
 void PowerByWord(WideFloat<C> & p, const WideFloat<C> & b, uint k, std::size_t n)
 {
-    p = b;
-    for (unsigned bit = words::bits_per_word - 1 - words::clz(k); bit-- > 0;) {
-        MulTruncated(p, p, p, n);
-        if ((k >> bit) & 1)
-            MulTruncated(p, p, b, n);
-    }
-    if (k == 1)
+    unsigned bit = words::bits_per_word - 1 - words::clz(k);
+    if (bit == 0) {
+        p = b;
         p.Resize(n);
+        return;
+    }
+    MulTruncated(p, b, b, n);
+    for (;;) {
+        if ((k >> --bit) & 1)
+            MulTruncated(p, p, b, n);
+        if (bit == 0)
+            break;
+        MulTruncated(p, p, p, n);
+    }
 }
 
 // |x|^(1/k) for x != 0, 1 and a word k >= 3, negated when asked. With x = m 2^L,

@@ -46,8 +46,10 @@ void MulTruncated(WideFloat<C> & r, const WideFloat<C> & a, const WideFloat<C> &
     if (&a == &b) {
         square::upper_columns(p, x, nu, low);
     } else {
-        words::fill(p, len, 0);
-        for (std::size_t j = 0; j < nv; ++j) {
+        // row j from column max(j, low); the first row (low < nu, as nv <= n) sets the
+        // words the others add to, and no word below column low is read
+        p[nu] = kernel::mul_1(p + low, x + low, nu - low, y[0]);
+        for (std::size_t j = 1; j < nv; ++j) {
             const std::size_t i0 = j >= low ? 0 : low - j;
             if (i0 < nu)
                 p[j + nu] = kernel::addmul_1(p + j + i0, x + i0, nu - i0, y[j]);
