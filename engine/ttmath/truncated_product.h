@@ -71,15 +71,14 @@ void MulTruncated(WideFloat<C> & r, const WideFloat<C> & a, const WideFloat<C> &
         r.e = e;
         return;
     }
+    // the top n words moved left by s (0 or 1) bits, the word below supplying the bit,
+    // in one pass ((w >> 1) >> (63 - s) is w >> (64 - s), and 0 for s = 0)
     const uint * top = p + (len - n);
-    if (p[len - 1] & TTMATH_UINT_HIGHEST_BIT) {
-        words::copy(r.w, top, n);
-    } else {
-        words::shl_bits(r.w, top, n, 1);
-        r.w[0] |= top[-1] >> (words::bits_per_word - 1);
-        --e;
-    }
-    r.e = e;
+    const unsigned shift = (p[len - 1] & TTMATH_UINT_HIGHEST_BIT) ? 0 : 1;
+    const uint * below = top - 1;
+    for (std::size_t i = n; i-- > 0;)
+        r.w[i] = (top[i] << shift) | ((below[i] >> 1) >> (words::bits_per_word - 1 - shift));
+    r.e = e - static_cast<sint>(shift);
 }
 
 } // namespace wide
