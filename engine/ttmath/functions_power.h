@@ -34,12 +34,10 @@ uint SqrtOfArgument(Big<exp, man> & result, const Argument<exp, man> & a)
     words::copy(radicand + man, a.m, man);
     if (odd)
         words::shr_bits(radicand + man - 1, radicand + man - 1, man + 1, 1);
-    uint rem[man + 1];
-    uint scratch[integer_sqrt::scratch_words(man) + 1];
+    uint scratch[integer_sqrt::rounding_scratch_words(man)];
     Rounded<man> r;
-    integer_sqrt::sqrt_rem(r.m, rem, radicand, man, scratch);
     r.lead = 0;
-    if (rem[man] || words::compare(rem, r.m, man) > 0) {
+    if (integer_sqrt::sqrt_rounds_up(r.m, radicand, man, scratch)) {
         if (UInt<man>::AddOneTo(r.m)) {
             r.m[man - 1] = TTMATH_UINT_HIGHEST_BIT;
             ++r.lead;

@@ -138,23 +138,18 @@ inline void quotient_at_most_one_word_over(uint * q, uint * w, std::size_t l, co
         q[j] = quotient_word(w + j, d, h, d1, d0, v);
 }
 
-// s[0 .. n) = floor(sqrt(a)) and r[0 .. n] = a - s^2 (at most 2 s, so r[n] is 0 or 1)
-// for the 2n-word a with a[2n - 1] >= 2^62. scratch holds scratch_words(n) words; no
-// output may overlap a.
-inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * scratch)
+inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * scratch);
+
+// A level of the recursion up to its remainder: s = s' β^l + q (n words, the returned
+// carry word 1 for s = β^n), the quotient q (l + 1 words, q[l] = 1 for q = β^l) and
+// t = u β^l + a0 (n + 2 words), so that a - s^2 = t - q^2. scratch holds
+// n + h + 2 + scratch_words(h) words (h = n - n / 2).
+inline uint root_and_partial_remainder(uint * s, uint * q, uint * t, const uint * a, std::size_t n, uint * scratch)
 {
-    if (n == 1) {
-        s[0] = word_root(a[1], a[0], r[1], r[0]);
-        return;
-    }
     const std::size_t l = n / 2, h = n - l;
-    uint * rh = scratch;          // r', h + 1 words
-    uint * d = rh + h + 1;        // the dividend, n + 1 words
-    uint * q = d + n + 1;         // the quotient, l + 2 words
-    uint * u = q + l + 2;         // the divider's remainder, h words
-    uint * sq = u + h;            // q^2, 2 l + 1 words
-    uint * t = sq + 2 * l + 1;    // the signed remainder, n + 2 words
-    uint * deeper = t + n + 2;
+    uint * rh = scratch;   // r', h + 1 words
+    uint * d = rh + h + 1; // the dividend, n + 1 words
+    uint * deeper = d + n + 1;
 
     uint * sh = s + l; // s' goes straight into the top of s
     sqrt_rem(sh, rh, a + 2 * l, h, deeper);
@@ -167,37 +162,15 @@ inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * s
     const uint lost = d[0] & 1;
     words::shr_bits(d, d, n + 1, 1);
     quotient_at_most_one_word_over(q, d, l, sh, h);
-    words::copy(u, d, h);
 
-    // t = u β^l + a0 with u = 2 u + lost, in n + 2 words
+    // t = u β^l + a0 with u = 2 u + lost (u is d's low h words)
     words::copy(t, a, l);
-    words::copy(t + l, u, h);
-    t[n] = 0;
+    words::copy(t + l, d, h);
     t[n + 1] = 0;
     t[n] = words::shl_bits(t + l, t + l, h, 1);
     t[l] |= lost;
 
-    // t -= q^2
-    if (q[l]) {
-        // q = β^l: q^2 = β^(2l)
-        uint * p = t + 2 * l;
-        for (std::size_t i = 2 * l; i < n + 2; ++i, ++p) {
-            const uint before = *p;
-            *p = before - 1;
-            if (before != 0)
-                break;
-        }
-    } else {
-        square::upper_columns(sq, q, l, 0);
-        uint borrow = kernel::sub_n(t, t, sq, 2 * l, 0);
-        for (std::size_t i = 2 * l; borrow && i < n + 2; ++i) {
-            const uint before = t[i];
-            t[i] = before - 1;
-            borrow = before == 0 ? 1 : 0;
-        }
-    }
-
-    // s = s' β^l + q, with a carry word for q = β^l
+    // s = s' β^l + q
     words::copy(s, q, l);
     uint s_top = 0;
     if (q[l]) {
@@ -208,8 +181,30 @@ inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * s
         }
         s_top = c;
     }
+    return s_top;
+}
 
-    // while t < 0: s -= 1, t += 2 s + 1
+// t -= q^2 over n + 2 words (two's complement), for the (l + 1)-word q <= β^l; sq holds
+// 2 l words.
+inline void subtract_square(uint * t, const uint * q, std::size_t l, std::size_t n, uint * sq)
+{
+    std::size_t from = 2 * l;
+    uint borrow = 1; // q = β^l: q^2 = β^(2l)
+    if (!q[l]) {
+        square::upper_columns(sq, q, l, 0);
+        borrow = kernel::sub_n(t, t, sq, 2 * l, 0);
+    }
+    for (std::size_t i = from; borrow && i < n + 2; ++i) {
+        const uint before = t[i];
+        t[i] = before - 1;
+        borrow = before == 0 ? 1 : 0;
+    }
+}
+
+// While the remainder t (n + 2 words, two's complement) is negative: s -= 1 and
+// t += 2 s + 1, for the n-word s with its carry word s_top.
+inline void correct_root(uint * s, uint s_top, uint * t, std::size_t n)
+{
     while (t[n + 1] & TTMATH_UINT_HIGHEST_BIT) {
         uint b = 1;
         for (std::size_t i = 0; b && i < n; ++i) {
@@ -221,7 +216,6 @@ inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * s
         uint c = kernel::add_n(t, t, s, n, 0);
         c += kernel::add_n(t, t, s, n, 0);
         c += 2 * s_top;
-        // + 1
         uint one = 1;
         for (std::size_t i = 0; one && i < n; ++i) {
             t[i] += 1;
@@ -232,7 +226,100 @@ inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * s
         t[n] = before + c;
         t[n + 1] += t[n] < before ? 1 : 0;
     }
+}
+
+// s[0 .. n) = floor(sqrt(a)) and r[0 .. n] = a - s^2 (at most 2 s, so r[n] is 0 or 1)
+// for the 2n-word a with a[2n - 1] >= 2^62. scratch holds scratch_words(n) words; no
+// output may overlap a.
+inline void sqrt_rem(uint * s, uint * r, const uint * a, std::size_t n, uint * scratch)
+{
+    if (n == 1) {
+        s[0] = word_root(a[1], a[0], r[1], r[0]);
+        return;
+    }
+    const std::size_t l = n / 2;
+    uint * q = scratch;        // l + 1 words
+    uint * t = q + l + 1;      // n + 2 words
+    uint * sq = t + n + 2;     // 2 l words
+    const uint s_top = root_and_partial_remainder(s, q, t, a, n, sq + 2 * l);
+    subtract_square(t, q, l, n, sq);
+    correct_root(s, s_top, t, n);
     words::copy(r, t, n + 1);
+}
+
+// Scratch words sqrt_rounds_up needs for an n-word root.
+constexpr std::size_t rounding_scratch_words(std::size_t n)
+{
+    return scratch_words(n) + 2 * n + 4;
+}
+
+// True when the (n + 2)-word two's complement x is at least β^(n - 1).
+inline bool at_least_below_top(const uint * x, std::size_t n)
+{
+    return !(x[n + 1] & TTMATH_UINT_HIGHEST_BIT) && (x[n + 1] | x[n] | x[n - 1]) != 0;
+}
+
+// True when the (n + 2)-word two's complement x is at most 0.
+inline bool not_positive(const uint * x, std::size_t n)
+{
+    return (x[n + 1] & TTMATH_UINT_HIGHEST_BIT) || words::is_zero(x, n + 2);
+}
+
+// s[0 .. n) = floor(sqrt(a)) for the 2n-word a with a[2n - 1] >= 2^62; returns whether
+// sqrt(a) > s + 1/2, that is a - s^2 > s. The top level needs its remainder
+// r = t - q^2 only for its sign and that comparison, and the columns of q^2 from
+// n - 3 up settle both: the ones left out add less than β^(n-1), so with
+// hi = t - (those columns), r lies in (hi - β^(n-1), hi]. When r may lie within β^(n-1)
+// of a boundary (rarely: 2^-64 of the cases), it is formed exactly. scratch holds
+// rounding_scratch_words(n) words.
+inline bool sqrt_rounds_up(uint * s, const uint * a, std::size_t n, uint * scratch)
+{
+    if (n == 1) {
+        uint r1, r0;
+        s[0] = word_root(a[1], a[0], r1, r0);
+        return r1 != 0 || r0 > s[0];
+    }
+    const std::size_t l = n / 2;
+    uint * q = scratch;     // l + 1 words
+    uint * t = q + l + 1;   // n + 2 words
+    uint * sq = t + n + 2;  // 2 l words
+    uint * hi = sq + 2 * l;     // n + 2 words
+    uint * wide_s = hi + n + 2; // n + 2 words
+    const uint s_top = root_and_partial_remainder(s, q, t, a, n, wide_s + n + 2);
+    if (!q[l]) {
+        square::upper_columns(sq, q, l, n >= 3 ? n - 3 : 0);
+        words::copy(hi, t, n + 2);
+        uint borrow = kernel::sub_n(hi, hi, sq, 2 * l, 0);
+        for (std::size_t i = 2 * l; borrow && i < n + 2; ++i) {
+            const uint before = hi[i];
+            hi[i] = before - 1;
+            borrow = before == 0 ? 1 : 0;
+        }
+        const bool negative = (hi[n + 1] & TTMATH_UINT_HIGHEST_BIT) != 0;
+        if (negative || at_least_below_top(hi, n)) {
+            // r < 0: the root is s - 1 and rounds up when r + 2 s - 1 > s - 1, r + s > 0;
+            // r > 0: it is s and rounds up when r - s > 0
+            words::copy(wide_s, s, n);
+            wide_s[n] = 0;
+            wide_s[n + 1] = 0;
+            if (negative)
+                kernel::add_n(hi, hi, wide_s, n + 2, 0);
+            else
+                kernel::sub_n(hi, hi, wide_s, n + 2, 0);
+            const bool up = at_least_below_top(hi, n);
+            if (up || not_positive(hi, n)) {
+                if (negative) {
+                    for (std::size_t i = 0; i < n; ++i)
+                        if (s[i]-- != 0)
+                            break;
+                }
+                return up;
+            }
+        }
+    }
+    subtract_square(t, q, l, n, sq);
+    correct_root(s, s_top, t, n);
+    return t[n] != 0 || words::compare(t, s, n) > 0;
 }
 
 } // namespace integer_sqrt

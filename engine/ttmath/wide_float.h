@@ -419,13 +419,13 @@ void Sqrt(WideFloat<C> & r, const WideFloat<C> & a, std::size_t n)
     }
     // a = A 2^(e - 128 n) for the 2n-word A; sqrt(a) = sqrt(A') 2^((e + odd) / 2 - 64 n)
     // with A' = A / 2^odd, whose top word is at least 2^62
-    uint radicand[2 * C], root[C], rem[C + 1];
-    uint scratch[integer_sqrt::scratch_words(C) + 1];
+    uint radicand[2 * C], root[C];
+    uint scratch[integer_sqrt::rounding_scratch_words(C)];
     TopWords(radicand, a, 2 * n);
     const bool odd = (a.e & 1) != 0;
     if (odd)
         words::shr_bits(radicand, radicand, 2 * n, 1);
-    integer_sqrt::sqrt_rem(root, rem, radicand, n, scratch);
+    integer_sqrt::sqrt_rounds_up(root, radicand, n, scratch);
     r.n = n;
     words::copy(r.w, root, n);
     r.e = (a.e + (odd ? 1 : 0)) / 2;

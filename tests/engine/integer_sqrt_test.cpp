@@ -1,6 +1,7 @@
 // The exact integer square root against GMP at every size of the recursion's splits,
-// on radicands that put the remainder and the quotient at their limits, and the square
-// roots built on it against MPFR at both widths.
+// on radicands that put the remainder and the quotient at their limits (also the root
+// with only the rounding decision, which settles most of them from the top columns of
+// a square), and the square roots built on it against MPFR at both widths.
 #include <gtest/gtest.h>
 
 #include <ttmath/ttmath.h>
@@ -65,6 +66,11 @@ TEST(IntegerSqrt, RootAndRemainderMatchGmpAtEverySize)
                 mpz_sqrtrem(zs.z, zr.z, za.z);
                 ASSERT_EQ(s, MpzToWords(zs.z, n)) << "n=" << n << " kind " << kind;
                 ASSERT_EQ(r, MpzToWords(zr.z, n + 1)) << "n=" << n << " kind " << kind;
+                // the root alone, and whether the remainder exceeds it
+                std::vector<Word> s2(n), round_scratch(ttmath::integer_sqrt::rounding_scratch_words(n));
+                const bool up = ttmath::integer_sqrt::sqrt_rounds_up(s2.data(), a.data(), n, round_scratch.data());
+                ASSERT_EQ(s2, s) << "n=" << n << " kind " << kind;
+                ASSERT_EQ(up, mpz_cmp(zr.z, zs.z) > 0) << "n=" << n << " kind " << kind;
             }
         }
     });
