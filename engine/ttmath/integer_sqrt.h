@@ -42,17 +42,17 @@ inline uint word_root(uint a1, uint a0, uint & r1, uint & r0)
     const double estimate = std::sqrt(static_cast<double>(a1) * word_scale + static_cast<double>(a0));
     uint s = estimate >= word_scale ? TTMATH_UINT_MAX_VALUE : static_cast<uint>(estimate);
     // The estimate is within about 2^12 of the root; one Newton step on the exact
-    // residual e = a - s^2 (|e| < 2^80, two's complement in two words) leaves it
-    // within one or two.
+    // residual e = a - s^2 (|e| < 2^80, two's complement in two words), truncated to an
+    // integer step, leaves it within two; the loops below settle the last units.
     uint p1, p0;
     kernel::mul_ww(s, s, p1, p0);
     const uint e0 = a0 - p0;
     const uint e1 = a1 - p1 - (a0 < p0 ? 1 : 0);
     const double e = static_cast<double>(static_cast<sint>(e1)) * word_scale + static_cast<double>(e0);
-    const double step = std::floor(e / (2.0 * static_cast<double>(s)) + 0.5);
+    const sint step = static_cast<sint>(e / (2.0 * static_cast<double>(s))); // |step| < 2^14
     if (step < 0)
         s -= static_cast<uint>(-step);
-    else if (static_cast<double>(TTMATH_UINT_MAX_VALUE - s) < step)
+    else if (TTMATH_UINT_MAX_VALUE - s < static_cast<uint>(step))
         s = TTMATH_UINT_MAX_VALUE;
     else
         s += static_cast<uint>(step);
