@@ -11,31 +11,41 @@
 #define TTMATH_FUNCTIONS_POWER_H
 
 #include "functions_exp_log.h"
+#include "integer_sqrt.h"
 
 namespace ttmath {
 namespace wide {
 
-// sqrt of a positive argument.
+// sqrt of a positive argument, from the integer square root of the mantissa: with
+// x = M 2^(L - P) for the P-bit integer M, t = L mod 2 and N = M 2^(P - t), sqrt(x) =
+// sqrt(N) 2^((L + t) / 2 - P), and N's root s has exactly P bits. The remainder
+// N - s^2 rounds it: sqrt(N) > s + 1/2 exactly when the remainder exceeds s (the root
+// is never a tie: a tie's square has more than 2P bits and is odd).
 template<uint exp, uint man>
 uint SqrtOfArgument(Big<exp, man> & result, const Argument<exp, man> & a)
 {
-    typedef Work<exp, man> W;
-    // x = m 2^L with m in [1/2, 1); for odd L use 2m and L - 1
-    typename W::Offset half(a.lead);
-    bool odd = (half.table[0] & 1) != 0;
+    typename Work<exp, man>::Offset half(a.lead);
+    const bool odd = (half.table[0] & 1) != 0;
     if (odd)
-        half.SubOne();
+        half.AddOne();
     half.Rcr(1, half.IsSign() ? 1 : 0);
-    return RoundCorrectly(result, [&](std::size_t n, Approximation<exp, man> & out) -> uint {
-        typename W::Float m;
-        a.MantissaToWide(m, n + 1);
-        if (odd)
-            m.Shift(1);
-        Sqrt(out.v, m, n + 1);
-        out.offset = half;
-        out.err = 16;
-        return 0;
-    });
+    uint radicand[2 * man];
+    words::fill(radicand, man, 0);
+    words::copy(radicand + man, a.m, man);
+    if (odd)
+        words::shr_bits(radicand + man - 1, radicand + man - 1, man + 1, 1);
+    uint scratch[integer_sqrt::rounding_scratch_words(man)];
+    Rounded<man> r;
+    r.lead = 0;
+    if (integer_sqrt::sqrt_rounds_up(r.m, radicand, man, scratch)) {
+        if (UInt<man>::AddOneTo(r.m)) {
+            r.m[man - 1] = TTMATH_UINT_HIGHEST_BIT;
+            ++r.lead;
+        }
+    }
+    Meter().rounds++;
+    Meter().Precision(man);
+    return StoreRounded(result, r, false, half);
 }
 
 // The argument as (odd integer) 2^shift: the odd part's words and bit length.

@@ -8,16 +8,52 @@
 #define TTMATH_FUNCTIONS_ROOT_H
 
 #include "functions_power.h"
+#include "truncated_product.h"
 
 namespace ttmath {
 namespace wide {
 
 // Indexes below 2^root_newton_index_bits take Newton's iteration on y^k = x.
 const sint root_newton_index_bits = 20;
+// Correct bits of the double starting value, with a margin.
+const sint root_start_bits = 48;
+
+// p = b^k (k >= 1) at precision n by left-to-right binary powering: squarings at n
+// words and multiplications by b at b's own precision. Each operation truncates (by
+// less than 1 + 2^-50 units); an error made while p = b^e grows k / e fold by the end,
+// so p is off by less than 2k units of 2^(1 - 64 n) relative to b^k.
+template<std::size_t C>
+void PowerByWord(WideFloat<C> & p, const WideFloat<C> & b, uint k, std::size_t n)
+{
+    unsigned bit = words::bits_per_word - 1 - words::clz(k);
+    if (bit == 0) {
+        p = b;
+        p.Resize(n);
+        return;
+    }
+    MulTruncated(p, b, b, n);
+    for (;;) {
+        if ((k >> --bit) & 1)
+            MulTruncated(p, p, b, n);
+        if (bit == 0)
+            break;
+        MulTruncated(p, p, p, n);
+    }
+}
 
 // |x|^(1/k) for x != 0, 1 and a word k >= 3, negated when asked. With x = m 2^L,
-// L = q k + r (0 <= r < k): the root is (m 2^r)^(1/k) 2^q. Newton's steps
-// y += y (x / y^k - 1) / k double the correct bits; the last runs at full precision.
+// L = q k + r (0 <= r < k): the root is a^(1/k) 2^q for a = m 2^r.
+//
+// Newton's steps z += z (1 - a z^k) / k on the reciprocal root z = a^(-1/k) need no
+// division; a relative error g becomes about (k + 1) g^2 / 2, so each step runs at the
+// precision of the bits it will have. Once z is right to about half the result's bits
+// (plus 1.5 log2 k, see below), y0 = a z^(k-1) has an error d = (k - 1) g, and one step
+//
+//     y = y0 + (a - y0^k) t / k,    t = z^(k-1), which is 1 / y0^(k-1) within k (k - 1) g,
+//
+// leaves an error below (k - 1) d^2 / 2 + k (k - 1) g d < 1.5 k^3 g^2: a fraction of a unit
+// of the result. Only y0^k is formed at the full precision; the rounding of its 2k-fold
+// error is divided by k again, a few units in all.
 template<uint exp, uint man>
 uint RootByNewton(Big<exp, man> & result, const Argument<exp, man> & x, uint k, bool negative)
 {
@@ -39,47 +75,50 @@ uint RootByNewton(Big<exp, man> & result, const Argument<exp, man> & x, uint k, 
             r = k - rem;
         }
     }
-    const double start = std::exp2((std::log2(static_cast<double>(x.m[man - 1]) * 0x1p-64) + static_cast<double>(r)) /
+    const double start = std::exp2(-(std::log2(static_cast<double>(x.m[man - 1]) * 0x1p-64) + static_cast<double>(r)) /
                                    static_cast<double>(k));
+    const sint k_bits = static_cast<sint>(words::bits_per_word - words::clz(k));
+    const sint wb = static_cast<sint>(word_bits);
     return RoundCorrectly(result, [&](std::size_t n, Approximation<exp, man> & out) -> uint {
-        const std::size_t last = n + 1;
-        const sint target = static_cast<sint>(last * word_bits) + 16;
-        Float xr, y, p, base, e, one;
-        x.MantissaToWide(xr, last);
-        xr.Shift(static_cast<sint>(r)); // m 2^r with m in [1/2, 1)
-        y.FromDouble(start, 2);
-        sint acc = 40;
+        // the bits z needs before the last step, and the words that hold them
+        const sint need = static_cast<sint>(n) * wb / 2 + (3 * k_bits + 1) / 2 + 2;
+        const std::size_t half = static_cast<std::size_t>((need + wb - 1) / wb);
+        Float a, z, p, one;
+        x.MantissaToWide(a, man);
+        a.Shift(static_cast<sint>(r)); // m 2^r with m in [1/2, 1)
+        z.FromDouble(start, 1);
+        sint acc = root_start_bits;
         std::size_t steps = 0;
-        bool final_step = false;
-        while (!final_step) {
-            std::size_t wp = static_cast<std::size_t>(2 * acc / static_cast<sint>(word_bits)) + 2;
-            if (wp >= last || 2 * acc - 8 >= target) {
-                wp = last;
-                final_step = 2 * acc - 8 >= target;
-            }
-            // p = y^k by binary powering
-            base = y;
-            base.Resize(wp);
-            p.SetOne(wp);
-            for (uint b = k;;) {
-                if (b & 1)
-                    Mul(p, p, base, wp);
-                b >>= 1;
-                if (!b)
-                    break;
-                Mul(base, base, base, wp);
-            }
-            Div(e, xr, p, wp);
+        while (acc < need) {
+            // the error after the step: (k + 1) g^2 / 2 from the last one, a few units
+            // of 2^(-64 wp) from the rounding
+            const sint aim = 2 * acc - k_bits < need ? 2 * acc - k_bits : need;
+            std::size_t wp = static_cast<std::size_t>((aim + 4 + wb - 1) / wb);
+            if (wp > n)
+                wp = n;
+            PowerByWord(p, z, k, wp);
+            MulTruncated(p, p, a, wp);
             one.SetOne(wp);
-            Sub(e, e, one, wp);
-            DivWord(e, e, k, wp);
-            Mul(e, e, y, wp);
-            y.Resize(wp);
-            Add(y, y, e, wp);
-            acc = 2 * acc - 8;
+            Sub(p, one, p, wp);
+            MulTruncated(p, p, z, wp);
+            DivWord(p, p, k, wp);
+            z.Resize(wp);
+            Add(z, z, p, wp);
+            const sint rounding_bits = static_cast<sint>(wp) * wb - 3;
+            acc = (2 * acc - k_bits < rounding_bits ? 2 * acc - k_bits : rounding_bits) - 1;
             ++steps;
         }
-        Meter().Series(steps);
+        Meter().Series(steps + 1);
+        const std::size_t hw = half < z.n ? half : z.n;
+        Float t, y, e;
+        PowerByWord(t, z, k - 1, hw); // t = z^(k-1)
+        MulTruncated(y, a, t, hw); // y0
+        PowerByWord(p, y, k, n);
+        Sub(e, a, p, n); // a - y0^k: the top words cancel
+        MulTruncated(e, e, t, hw);
+        DivWord(e, e, k, hw);
+        y.Resize(n);
+        Add(y, y, e, n);
         out.v = y;
         out.v.neg = negative;
         out.offset = q;

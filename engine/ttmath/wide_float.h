@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "integer_sqrt.h"
 #include "kernels.h"
 #include "quotient.h"
 #include "words.h"
@@ -405,15 +406,10 @@ void Div(WideFloat<C> & r, const WideFloat<C> & a, const WideFloat<C> & b, std::
     LoadProduct(r, q, qn, e, a.neg != b.neg);
 }
 
-// floor(k / 2) for any sign of k.
-inline sint FloorHalf(sint k)
-{
-    return k >= 0 ? k / 2 : -((-k + 1) / 2);
-}
-
-// r = sqrt(a) for a >= 0 at precision n, by Newton's iteration on 1/sqrt(a) with the
-// working precision growing with the correct bits, and a last step on the root itself
-// (which doubles the correct bits once more). Off by a few ulps at most.
+// r = sqrt(a) for a >= 0 at precision n: the exact integer root of a's top 2n words
+// (shifted right by one bit when the exponent is odd), so r is sqrt(a) truncated to
+// n words, below it by less than one ulp (when a has more than 2n words, the words
+// dropped only lower the radicand, and the bound still holds). r may be a.
 template<std::size_t C>
 void Sqrt(WideFloat<C> & r, const WideFloat<C> & a, std::size_t n)
 {
@@ -421,40 +417,20 @@ void Sqrt(WideFloat<C> & r, const WideFloat<C> & a, std::size_t n)
         r.SetZero(n);
         return;
     }
-    // a = m 2^(2h) with m in [1/4, 1)
-    WideFloat<C> m(a);
-    const sint h = FloorHalf(m.e + 1);
-    m.e -= 2 * h;
-    const sint target = static_cast<sint>(n * word_bits) + 16;
-    const sint start_bits = 48; // what the double start gives, with a margin
-    WideFloat<C> y, t, one;
-    y.FromDouble(1.0 / std::sqrt(m.ToDouble()), 2);
-    for (sint acc = start_bits; 2 * acc < target + 8; acc = 2 * acc - 4) {
-        std::size_t wp = static_cast<std::size_t>((2 * acc) / static_cast<sint>(word_bits)) + 2;
-        if (wp > n + 1)
-            wp = n + 1;
-        // y = y + y (1 - m y^2) / 2
-        Mul(t, y, y, wp);
-        Mul(t, t, m, wp);
-        one.SetOne(wp);
-        Sub(t, one, t, wp);
-        Mul(t, t, y, wp);
-        t.Shift(-1);
-        y.Resize(wp);
-        Add(y, y, t, wp);
-    }
-    // s = m y, then s = s + y (m - s^2) / 2
-    const std::size_t wp = n + 1;
-    WideFloat<C> s;
-    Mul(s, m, y, wp);
-    Mul(t, s, s, wp);
-    Sub(t, m, t, wp);
-    Mul(t, t, y, wp);
-    t.Shift(-1);
-    Add(s, s, t, wp);
-    s.Resize(n);
-    s.e += h;
-    r = s;
+    // a = A 2^(e - 128 n) for the 2n-word A; sqrt(a) = sqrt(A') 2^((e + odd) / 2 - 64 n)
+    // with A' = A / 2^odd, whose top word is at least 2^62
+    uint radicand[2 * C], root[C];
+    uint scratch[integer_sqrt::rounding_scratch_words(C)];
+    TopWords(radicand, a, 2 * n);
+    const bool odd = (a.e & 1) != 0;
+    if (odd)
+        words::shr_bits(radicand, radicand, 2 * n, 1);
+    integer_sqrt::sqrt_rounds_up(root, radicand, n, scratch);
+    r.n = n;
+    words::copy(r.w, root, n);
+    r.e = (a.e + (odd ? 1 : 0)) / 2;
+    r.neg = false;
+    r.zero = false;
 }
 
 } // namespace wide
