@@ -37,8 +37,11 @@ inline void upper_columns(uint * p, const uint * x, std::size_t n, std::size_t l
         if (j0 < n)
             p[i + n] = kernel::addmul_1(p + i + j0, x + j0, n - j0, x[i]);
     }
-    // twice those (their sum is below x^2 / 2, so no bit leaves the top)
-    words::shl_bits(p, p, 2 * n, 1);
+    // twice those (their sum is below x^2 / 2, so no bit leaves the top); no product
+    // reaches a column below low, so the doubling starts there
+    const std::size_t first = low < 2 * n ? low : 2 * n;
+    if (first < 2 * n)
+        words::shl_bits(p + first, p + first, 2 * n - first, 1);
     // plus the squares on the diagonal, a block of them at a time
     uint diagonal[2 * diagonal_block];
     uint carry = 0;
