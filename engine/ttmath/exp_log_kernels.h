@@ -17,7 +17,7 @@
 #include "correct_rounding.h"
 #include "series_constants.h"
 #include "series_evaluation.h"
-#include "wide_products.h"
+#include "truncated_product.h"
 
 namespace ttmath {
 namespace wide {
@@ -64,10 +64,10 @@ uint ExpM1(WideFloat<C> & a, const WideFloat<C> & r, std::size_t n)
     // a = x (1 + x/2! + x^2/3! + ...)
     WideFloat<C> sum;
     SumSeries(sum, x, terms, ExpRatio, n);
-    MulTop(a, sum, x, n);
+    MulTruncated(a, sum, x, n);
     // e^(2y) - 1 = a (a + 2)
     for (sint i = 0; i < s; ++i) {
-        SqrTop(t, a, n);
+        MulTruncated(t, a, a, n);
         a.Shift(1);
         Add(a, a, t, n);
     }
@@ -176,11 +176,11 @@ void Log1pTerms(WideFloat<C> & y, const WideFloat<C> & c, sint terms, std::size_
     sum.SetWord(l / static_cast<uint>(terms), wp);
     for (sint i = terms - 1; i >= 1; --i) {
         // sum = L/i - c sum
-        MulTop(t, c, sum, wp);
+        MulTruncated(t, c, sum, wp);
         k.SetWord(l / static_cast<uint>(i), wp);
         Sub(sum, k, t, wp);
     }
-    MulTop(t, c, sum, wp);
+    MulTruncated(t, c, sum, wp);
     DivWord(y, t, l, wp);
 }
 
@@ -229,7 +229,7 @@ uint Log1p(WideFloat<C> & y, const WideFloat<C> & u, std::size_t n)
         my.Negate();
         ExpM1(a, my, wp);
         // c = u + a + u a
-        MulTop(t, u, a, wp);
+        MulTruncated(t, u, a, wp);
         Add(c, u, a, wp);
         Add(c, c, t, wp);
         Log1pTerms(l, c, terms, wp);

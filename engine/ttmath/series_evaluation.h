@@ -9,7 +9,7 @@
 
 #include "wide_float.h"
 #include "series_fixed_point.h"
-#include "wide_products.h"
+#include "truncated_product.h"
 #include "work_meter.h"
 
 namespace ttmath {
@@ -73,9 +73,9 @@ void SumSeries(WideFloat<C> & f, const WideFloat<C> & x, sint terms, SeriesRatio
     powers[1].Resize(n);
     for (std::size_t k = 2; k <= m; ++k) {
         if (k % 2 == 0)
-            SqrTop(powers[k], powers[k / 2], n);
+            MulTruncated(powers[k], powers[k / 2], powers[k / 2], n);
         else
-            MulTop(powers[k], powers[k - 1], powers[1], n);
+            MulTruncated(powers[k], powers[k - 1], powers[1], n);
     }
     for (std::size_t k = 1; k < m; ++k)
         ToFixed(fixed[k], powers[k], frac, frac);
@@ -91,7 +91,7 @@ void SumSeries(WideFloat<C> & f, const WideFloat<C> & x, sint terms, SeriesRatio
             bool neg;
             RatioProduct(q, j * ms + ms, j * ms + 2 * ms - 1, mag, neg);
             FromFixed(t, acc, frac, n);
-            MulTop(t, t, powers[m], n);
+            MulTruncated(t, t, powers[m], n);
             DivWord(t, t, mag, n);
             ToFixed(acc, t, frac, frac + 2);
             if (t.neg != neg)

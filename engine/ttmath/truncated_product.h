@@ -1,14 +1,16 @@
-// Products of working numbers truncated to n words without the general path's
-// conversions: the operands' top words are read in place, only the columns that reach
-// the kept words are summed (a square forms each product of two different words once),
-// and the normalising shift is one bit at most (the product of two mantissas in
-// [1/2, 1) lies in [1/4, 1)).
+// Products of working numbers truncated to n words, the one product the function
+// kernels (exp, ln, the series, roots) use: the operands' top words are read in place,
+// only the columns that reach the kept words are summed, and the normalising shift is
+// one bit at most (the product of two mantissas in [1/2, 1) lies in [1/4, 1)). Passing
+// the same object as both operands squares it, forming each product of two different
+// words once (square_columns.h).
 //
 // The columns left out lie more than guard_columns words below the result's last word;
 // with their carries they add less than (number of columns) * 2^-64 units of it. The
-// result is below the exact product by less than 1 + 2^-50 units of its last place;
-// an operand longer than n words is cut to its top n words first, which adds less
-// than two units more.
+// result is never above the exact product in magnitude and below it by less than
+// 1 + 2^-50 units of its last place; an operand longer than n words is cut to its top
+// n words first, which adds less than two units more. A shorter operand is used as it
+// is (no padding words), and a product that fits n words is exact.
 #ifndef TTMATH_TRUNCATED_PRODUCT_H
 #define TTMATH_TRUNCATED_PRODUCT_H
 
