@@ -51,7 +51,7 @@ template<std::size_t C>
 void FromFixed(WideFloat<C> & r, const uint * acc, std::size_t frac, std::size_t n)
 {
     const std::size_t width = frac + 2;
-    uint mag[C + 4];
+    uint mag[C + 4] = {}; // zeroed: compilers cannot see that the copy fills what SetWords reads
     words::copy(mag, acc, width);
     const bool negative = (acc[width - 1] & TTMATH_UINT_HIGHEST_BIT) != 0;
     if (negative)
