@@ -507,6 +507,8 @@ private:
     bool AddNormalised(const Big & ss2, bool round, bool adding, uint & rc);
     bool MulNormalised(const Big & ss2, bool round, uint & rc);
     uint MulGeneral(const Big & ss2, bool round);
+    bool MulOfSpecial(const Big & ss2, uint & rc);
+    uint SetFromProduct(uint * p, const Big & ss2, bool round);
     bool DivNormalised(const Big & ss2, bool round, uint & rc);
     uint DivGeneral(const Big & ss2, bool round);
     uint AddGeneral(Big ss2, bool round, bool adding);

@@ -110,27 +110,26 @@ inline bool Big<exp, man>::MulNormalised(const Big & ss2, bool round, uint & rc)
     return true;
 }
 
-// The algorithm for every input.
+// The product when either factor is NaN or zero; false when both are finite and not zero.
 template<uint exp, uint man>
-TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
+bool Big<exp, man>::MulOfSpecial(const Big & ss2, uint & rc)
 {
-    if (this == &ss2_) {
-        Big copy(ss2_);
-        return MulGeneral(copy, round);
-    }
-    const Big & ss2 = ss2_;
-
+    rc = 0;
     if (IsNan() || ss2.IsNan())
-        return CheckCarry(1);
-    if (IsZero())
-        return 0;
-    if (ss2.IsZero()) {
+        rc = CheckCarry(1);
+    else if (ss2.IsZero() && !IsZero())
         SetZero();
-        return 0;
-    }
+    else if (!IsZero())
+        return false;
+    return true;
+}
 
-    uint p[2 * man];
-    product::full<man>(p, mantissa.table, ss2.mantissa.table);
+// This becomes the 2 man-word product p of its mantissa and ss2's: the product is
+// normalised, the exponents are summed with the product's own shift, the low half rounds
+// half to even when asked, and the signs combine.
+template<uint exp, uint man>
+uint Big<exp, man>::SetFromProduct(uint * p, const Big & ss2, bool round)
+{
     uint shift = words::leading_zeros_fixed<2 * man>(p);
     if (shift)
         words::shl(p, 2 * man, shift);
@@ -156,6 +155,25 @@ TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
 
     c += Standardizing();
     return CheckCarry(c);
+}
+
+// The algorithm for every input.
+template<uint exp, uint man>
+TTMATH_NOINLINE uint Big<exp, man>::MulGeneral(const Big & ss2_, bool round)
+{
+    if (this == &ss2_) {
+        Big copy(ss2_);
+        return MulGeneral(copy, round);
+    }
+    const Big & ss2 = ss2_;
+
+    uint rc;
+    if (MulOfSpecial(ss2, rc))
+        return rc;
+
+    uint p[2 * man];
+    product::full<man>(p, mantissa.table, ss2.mantissa.table);
+    return SetFromProduct(p, ss2, round);
 }
 
 // The common case of Div: two normalised values with no flag but the sign. The

@@ -14,41 +14,14 @@ uint Big<exp, man>::MulOneWord(const Big & ss2, bool round)
     if (this == &ss2 || !words::is_zero(ss2.mantissa.table, man - 1))
         return Mul(ss2, round);
 
-    if (IsNan() || ss2.IsNan())
-        return CheckCarry(1);
-    if (IsZero())
-        return 0;
-    if (ss2.IsZero()) {
-        SetZero();
-        return 0;
-    }
+    uint rc;
+    if (MulOfSpecial(ss2, rc))
+        return rc;
 
     uint p[2 * man];
     words::fill(p, man - 1, 0);
     p[2 * man - 1] = kernel::mul_1(p + man - 1, mantissa.table, man, ss2.mantissa.table[man - 1]);
-    uint shift = words::leading_zeros_fixed<2 * man>(p);
-    if (shift)
-        words::shl(p, 2 * man, shift);
-
-    uint c = 0;
-    uint k = mantissa_bits - shift;
-    if (k != 0)
-        c += exponent.Add(ExponentFromWord(k));
-    c += exponent.Add(ss2.exponent);
-
-    words::copy(mantissa.table, p + man, man);
-    if (round && (p[man - 1] & TTMATH_UINT_HIGHEST_BIT)) {
-        bool is_half = p[man - 1] == TTMATH_UINT_HIGHEST_BIT && words::is_zero(p, man - 1);
-        c += RoundHalfToEven(is_half, true);
-    }
-
-    if (IsSign() == ss2.IsSign())
-        ClearInfoBit(TTMATH_BIG_SIGN);
-    else
-        SetInfoBit(TTMATH_BIG_SIGN);
-
-    c += Standardizing();
-    return CheckCarry(c);
+    return SetFromProduct(p, ss2, round);
 }
 
 } // namespace ttmath
