@@ -37,24 +37,11 @@ End Try
 const char * const kTextScript = "Print New BigNumberZQT(\"2.5\").DoubleValue\n"
                                  "Print New BigNumberZQT(\"2\xC3\xA9\").IsZero\n";
 
-struct HiddenCase {
-    const char * entry;
-    const char * script;
-    const char * output;
-};
-
-std::ostream & operator<<(std::ostream & out, const HiddenCase & c)
-{
-    return out << c.entry;
-}
-
-class HiddenService : public PluginHost, public ::testing::WithParamInterface<HiddenCase> {};
+class HiddenService : public HiddenEntryHost {};
 
 TEST_P(HiddenService, GivesANeutralResult)
 {
-    host.HideEntry(GetParam().entry);
-    LoadOrFail();
-    EXPECT_EQ(Output(GetParam().script), GetParam().output);
+    EXPECT_EQ(OutputWithEntryHidden(), GetParam().output);
 }
 
 #define TOO_SMALL_BLOCK \

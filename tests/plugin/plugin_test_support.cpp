@@ -104,4 +104,16 @@ void PluginImage::Start(REALresolver resolver)
     entry(resolver);
 }
 
+std::ostream & operator<<(std::ostream & out, const HiddenCase & c)
+{
+    return out << c.entry;
+}
+
+std::string HiddenEntryHost::OutputWithEntryHidden()
+{
+    host.HideEntry(GetParam().entry);
+    LoadOrFail();
+    return Output(GetParam().script);
+}
+
 } // namespace plugin_test

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,21 @@ protected:
     std::string Output(const std::string & script);
 
     hostsim::Host host;
+};
+
+// A host entry the resolver answers null for, a script to run without it, and what the
+// script must print then.
+struct HiddenCase {
+    const char * entry;
+    const char * script;
+    const char * output;
+};
+std::ostream & operator<<(std::ostream & out, const HiddenCase & c);
+
+class HiddenEntryHost : public PluginHost, public ::testing::WithParamInterface<HiddenCase> {
+protected:
+    // Hides the case's entry, loads the plugin and returns what the case's script printed.
+    std::string OutputWithEntryHidden();
 };
 
 // What the last call raised: the exception's class, Message and ErrorNumber. Takes the

@@ -89,24 +89,11 @@ TEST_F(TextAndVariants, AnUnreadableDateTimeStoresZeroAndSaysSo)
                      "ZQT Debug: SetDoubleValue\n");
 }
 
-struct HiddenCase {
-    const char * entry;
-    const char * script;
-    const char * output;
-};
-
-std::ostream & operator<<(std::ostream & out, const HiddenCase & c)
-{
-    return out << c.entry;
-}
-
-class HiddenVariantService : public PluginHost, public ::testing::WithParamInterface<HiddenCase> {};
+class HiddenVariantService : public HiddenEntryHost {};
 
 TEST_P(HiddenVariantService, DegradesToAZeroOrRefusedValue)
 {
-    host.HideEntry(GetParam().entry);
-    LoadOrFail();
-    EXPECT_EQ(Output(GetParam().script), GetParam().output);
+    EXPECT_EQ(OutputWithEntryHidden(), GetParam().output);
 }
 
 // An unsigned variant, a number of the class and one of the other class.
