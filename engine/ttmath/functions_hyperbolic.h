@@ -236,10 +236,12 @@ bool ReferenceExpFails(const Big<exp, man> & x)
 }
 
 template<uint exp, uint man>
-Big<exp, man> HyperbolicOf(Hyperbolic which, const Big<exp, man> & x, ErrorCode & e)
+Big<exp, man> HyperbolicOf(Hyperbolic which, const Big<exp, man> & x, ErrorCode * err)
 {
     typedef Big<exp, man> B;
     B result;
+    ErrorCode unreported;
+    ErrorCode & e = err ? *err : unreported;
     e = err_ok;
     if (x.IsNan()) {
         e = err_improper_argument;
@@ -352,11 +354,7 @@ Big<exp, man> HyperbolicOf(Hyperbolic which, const Big<exp, man> & x, ErrorCode 
     template<class ValueType>                                                 \
     ValueType Name(const ValueType & x, ErrorCode * err = 0)                  \
     {                                                                         \
-        ErrorCode e;                                                          \
-        ValueType r = wide::HyperbolicOf(wide::Hyperbolic::which, x, e);      \
-        if (err)                                                              \
-            *err = e;                                                         \
-        return r;                                                             \
+        return wide::HyperbolicOf(wide::Hyperbolic::which, x, err);           \
     }
 
 TTMATH_HYPERBOLIC_FUNCTION(Sinh, sinh)

@@ -109,10 +109,12 @@ uint HalfPis(Approximation<exp, man> & out, unsigned half_pis, bool negative, st
 }
 
 template<uint exp, uint man>
-Big<exp, man> InverseTrigOf(InverseTrig which, const Big<exp, man> & x, ErrorCode & e)
+Big<exp, man> InverseTrigOf(InverseTrig which, const Big<exp, man> & x, ErrorCode * err)
 {
     typedef Big<exp, man> B;
     B result;
+    ErrorCode unreported;
+    ErrorCode & e = err ? *err : unreported;
     e = err_ok;
     if (x.IsNan()) {
         if (which == InverseTrig::asin || which == InverseTrig::acos)
@@ -194,35 +196,25 @@ Big<exp, man> InverseTrigOf(InverseTrig which, const Big<exp, man> & x, ErrorCod
 template<class ValueType>
 ValueType ASin(ValueType x, ErrorCode * err = 0)
 {
-    ErrorCode e;
-    ValueType r = wide::InverseTrigOf(wide::InverseTrig::asin, x, e);
-    if (err)
-        *err = e;
-    return r;
+    return wide::InverseTrigOf(wide::InverseTrig::asin, x, err);
 }
 
 template<class ValueType>
 ValueType ACos(const ValueType & x, ErrorCode * err = 0)
 {
-    ErrorCode e;
-    ValueType r = wide::InverseTrigOf(wide::InverseTrig::acos, x, e);
-    if (err)
-        *err = e;
-    return r;
+    return wide::InverseTrigOf(wide::InverseTrig::acos, x, err);
 }
 
 template<class ValueType>
 ValueType ATan(ValueType x)
 {
-    ErrorCode e;
-    return wide::InverseTrigOf(wide::InverseTrig::atan, x, e);
+    return wide::InverseTrigOf(wide::InverseTrig::atan, x, 0);
 }
 
 template<class ValueType>
 ValueType ACot(const ValueType & x)
 {
-    ErrorCode e;
-    return wide::InverseTrigOf(wide::InverseTrig::acot, x, e);
+    return wide::InverseTrigOf(wide::InverseTrig::acot, x, 0);
 }
 
 } // namespace ttmath

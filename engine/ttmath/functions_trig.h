@@ -105,11 +105,13 @@ ErrorCode HugeTanCotCode(Trig which, const Big<exp, man> & x)
 }
 
 template<uint exp, uint man>
-Big<exp, man> TrigOf(Trig which, const Big<exp, man> & x, ErrorCode & e)
+Big<exp, man> TrigOf(Trig which, const Big<exp, man> & x, ErrorCode * err)
 {
     typedef Work<exp, man> W;
     typedef Big<exp, man> B;
     B result;
+    ErrorCode unreported;
+    ErrorCode & e = err ? *err : unreported;
     e = err_ok;
     if (x.IsNan()) {
         e = err_improper_argument;
@@ -186,41 +188,25 @@ Big<exp, man> TrigOf(Trig which, const Big<exp, man> & x, ErrorCode & e)
 template<class ValueType>
 ValueType Sin(ValueType x, ErrorCode * err = 0)
 {
-    ErrorCode e;
-    ValueType r = wide::TrigOf(wide::Trig::sin, x, e);
-    if (err)
-        *err = e;
-    return r;
+    return wide::TrigOf(wide::Trig::sin, x, err);
 }
 
 template<class ValueType>
 ValueType Cos(ValueType x, ErrorCode * err = 0)
 {
-    ErrorCode e;
-    ValueType r = wide::TrigOf(wide::Trig::cos, x, e);
-    if (err)
-        *err = e;
-    return r;
+    return wide::TrigOf(wide::Trig::cos, x, err);
 }
 
 template<class ValueType>
 ValueType Tan(const ValueType & x, ErrorCode * err = 0)
 {
-    ErrorCode e;
-    ValueType r = wide::TrigOf(wide::Trig::tan, x, e);
-    if (err)
-        *err = e;
-    return r;
+    return wide::TrigOf(wide::Trig::tan, x, err);
 }
 
 template<class ValueType>
 ValueType Cot(const ValueType & x, ErrorCode * err = 0)
 {
-    ErrorCode e;
-    ValueType r = wide::TrigOf(wide::Trig::cot, x, e);
-    if (err)
-        *err = e;
-    return r;
+    return wide::TrigOf(wide::Trig::cot, x, err);
 }
 
 } // namespace ttmath
