@@ -1,11 +1,15 @@
-// The plugin's operators, methods and shared functions against its numeric core, on
-// random operands, in both classes: a script computes each expression through the host
-// and prints it in base 16, where texts are exact, and the same operation done here on
-// the core's values must print the same text. A row wired to the wrong handler, operands
+// The plugin's operators, methods, shared functions and native conversions against its
+// numeric core, on random operands, in both classes: a script computes each expression
+// through the host and prints it in base 16, where texts are exact, and the same
+// operation done here on the core's values must print the same text. A row wired to the wrong handler, operands
 // swapped, a rounding flag dropped or a class built on the other value type shows here.
 #include "plugin_test_support.h"
 
+#include <cfloat>
+#include <cmath>
 #include <cstdint>
+#include <cstdio>
+#include <cstring>
 #include <functional>
 #include <random>
 #include <sstream>
@@ -112,6 +116,8 @@ class Agreement : public PluginHost {
 protected:
     template <class Traits>
     void ExpectAgreement(std::uint64_t seed);
+    template <class Traits>
+    void ExpectNativeAgreement(std::uint64_t seed);
 };
 
 template <class Traits>
@@ -157,6 +163,75 @@ void Agreement::ExpectAgreement(std::uint64_t seed)
         ASSERT_TRUE(std::getline(printed, line)) << shown[i];
         EXPECT_EQ(line, expected[i]) << shown[i];
     }
+}
+
+// Integers and doubles into a number and back out: a constructor must store what the core
+// converts, Int64Value must truncate as the core does, and a double must come back as
+// itself.
+template <class Traits>
+void Agreement::ExpectNativeAgreement(std::uint64_t seed)
+{
+    using Value = typename Traits::Value;
+    const std::string c = Traits::kName;
+    std::mt19937_64 rng(seed);
+    ttmath::Conv hex;
+    hex.base = kHexBase;
+    const int integer_digits = 15; // below 2^60, so Int64Value never fails
+
+    std::vector<std::int64_t> integers = {INT64_MAX, -INT64_MAX, 0, -1};
+    std::vector<double> doubles = {DBL_MAX, -DBL_MIN, DBL_TRUE_MIN, 0.1};
+    for (int round = 0; round < kRounds; ++round) {
+        integers.push_back(static_cast<std::int64_t>(rng()) >> (rng() % 63));
+        double d;
+        do {
+            const std::uint64_t bits = rng();
+            std::memcpy(&d, &bits, sizeof d);
+        } while (!std::isfinite(d));
+        doubles.push_back(d);
+    }
+
+    std::ostringstream script;
+    std::vector<std::string> expected;
+    script << "Var x As New " << c << "\n";
+    for (std::int64_t i : integers) {
+        Value v;
+        v.FromInt(i);
+        script << "Print New " << c << "(" << i << ").StringValue(16)\n";
+        expected.push_back(v.ToString(hex));
+    }
+    for (double d : doubles) {
+        Value v;
+        v.FromDouble(d);
+        char literal[32];
+        std::snprintf(literal, sizeof literal, "%.17g", d);
+        script << "Print New " << c << "(" << literal << ").StringValue(16)\n"
+               << "Print New " << c << "(" << literal << ").DoubleValue = " << literal << "\n";
+        expected.push_back(v.ToString(hex));
+        expected.push_back("True");
+    }
+    for (int round = 0; round < kRounds; ++round) {
+        const std::string text = RandomHex(rng, integer_digits, integer_digits - round, rng() & 1);
+        Value v;
+        ASSERT_EQ(v.FromString(text, hex), 0u);
+        ttmath::sint truncated = 0;
+        ASSERT_EQ(v.ToInt(truncated), 0u);
+        script << "x.StringValue(16) = \"" << text << "\"\nPrint x.Int64Value\n";
+        expected.push_back(std::to_string(truncated));
+    }
+
+    std::istringstream printed(Output(script.str()));
+    std::string line;
+    for (const std::string & want : expected) {
+        ASSERT_TRUE(std::getline(printed, line)) << c << ": the script printed fewer lines";
+        EXPECT_EQ(line, want) << c;
+    }
+}
+
+TEST_F(Agreement, NativeValuesCrossAsTheCoreConvertsThem)
+{
+    LoadOrFail();
+    ExpectNativeAgreement<zqt::BigNumberTraits>(3);
+    ExpectNativeAgreement<zqt::BiggerNumberTraits>(4);
 }
 
 TEST_F(Agreement, EveryOperationMatchesTheCoreOnRandomOperandsInBothClasses)
