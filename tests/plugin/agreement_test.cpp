@@ -1,8 +1,9 @@
 // The plugin's operators, methods, shared functions and native conversions against its
 // numeric core, on random operands, in both classes: a script computes each expression
 // through the host and prints it in base 16, where texts are exact, and the same
-// operation done here on the core's values must print the same text. A row wired to the wrong handler, operands
-// swapped, a rounding flag dropped or a class built on the other value type shows here.
+// operation done here on the core's values must print the same text. A row wired to the
+// wrong handler, operands swapped, a rounding flag dropped or a class built on the other
+// value type shows here.
 #include "plugin_test_support.h"
 
 #include <cfloat>
@@ -112,12 +113,32 @@ std::string RandomHex(std::mt19937_64 & rng, int digits, int before, bool negati
     return text;
 }
 
+ttmath::Conv HexConversion()
+{
+    ttmath::Conv hex;
+    hex.base = kHexBase;
+    return hex;
+}
+
 class Agreement : public PluginHost {
 protected:
     template <class Traits>
     void ExpectAgreement(std::uint64_t seed);
     template <class Traits>
     void ExpectNativeAgreement(std::uint64_t seed);
+
+    // Runs the script and compares its lines with `expected`; `shown[i]` says what line i
+    // computed.
+    void ExpectPrinted(const std::string & script, const std::vector<std::string> & expected,
+                       const std::vector<std::string> & shown)
+    {
+        std::istringstream printed(Output(script));
+        std::string line;
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            ASSERT_TRUE(std::getline(printed, line)) << shown[i];
+            EXPECT_EQ(line, expected[i]) << shown[i];
+        }
+    }
 };
 
 template <class Traits>
@@ -128,8 +149,7 @@ void Agreement::ExpectAgreement(std::uint64_t seed)
     const int digits = static_cast<int>(Value::mantissa_bits / 4);
     std::mt19937_64 rng(seed);
     const auto checks = Checks<Value>();
-    ttmath::Conv hex;
-    hex.base = kHexBase;
+    const ttmath::Conv hex = HexConversion();
 
     std::ostringstream script;
     script << "Var a, b, p, q, u, k As " << c << "\n";
@@ -139,7 +159,8 @@ void Agreement::ExpectAgreement(std::uint64_t seed)
         std::ostringstream inputs;
         auto set = [&](const char * name, Value & v, const std::string & text) {
             ASSERT_EQ(v.FromString(text, hex), 0u) << text;
-            script << name << " = New " << c << "\n" << name << ".StringValue(16) = \"" << text << "\"\n";
+            script << name << " = New " << c << "\n"
+                   << name << ".StringValue(" << kHexBase << ") = \"" << text << "\"\n";
             inputs << " " << name << "=" << text;
         };
         set("a", o.a, RandomHex(rng, digits, kHexDigitsBeforePoint, rng() & 1));
@@ -152,17 +173,12 @@ void Agreement::ExpectAgreement(std::uint64_t seed)
             std::string expression = check.expression;
             for (std::size_t at = expression.find("C."); at != std::string::npos; at = expression.find("C.", at + c.size()))
                 expression.replace(at, 1, c);
-            script << "Print (" << expression << ").StringValue(16)\n";
+            script << "Print (" << expression << ").StringValue(" << kHexBase << ")\n";
             expected.push_back(check.expected(o).ToString(hex));
             shown.push_back(expression + " with" + inputs.str());
         }
     }
-    std::istringstream printed(Output(script.str()));
-    std::string line;
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        ASSERT_TRUE(std::getline(printed, line)) << shown[i];
-        EXPECT_EQ(line, expected[i]) << shown[i];
-    }
+    ExpectPrinted(script.str(), expected, shown);
 }
 
 // Integers and doubles into a number and back out: a constructor must store what the core
@@ -174,8 +190,7 @@ void Agreement::ExpectNativeAgreement(std::uint64_t seed)
     using Value = typename Traits::Value;
     const std::string c = Traits::kName;
     std::mt19937_64 rng(seed);
-    ttmath::Conv hex;
-    hex.base = kHexBase;
+    const ttmath::Conv hex = HexConversion();
     const int integer_digits = 15; // below 2^60, so Int64Value never fails
 
     std::vector<std::int64_t> integers = {INT64_MAX, -INT64_MAX, 0, -1};
@@ -191,23 +206,26 @@ void Agreement::ExpectNativeAgreement(std::uint64_t seed)
     }
 
     std::ostringstream script;
-    std::vector<std::string> expected;
+    std::vector<std::string> expected, shown;
     script << "Var x As New " << c << "\n";
     for (std::int64_t i : integers) {
         Value v;
         v.FromInt(i);
-        script << "Print New " << c << "(" << i << ").StringValue(16)\n";
+        script << "Print New " << c << "(" << i << ").StringValue(" << kHexBase << ")\n";
         expected.push_back(v.ToString(hex));
+        shown.push_back(c + " from Int64 " + std::to_string(i));
     }
     for (double d : doubles) {
         Value v;
         v.FromDouble(d);
         char literal[32];
         std::snprintf(literal, sizeof literal, "%.17g", d);
-        script << "Print New " << c << "(" << literal << ").StringValue(16)\n"
+        script << "Print New " << c << "(" << literal << ").StringValue(" << kHexBase << ")\n"
                << "Print New " << c << "(" << literal << ").DoubleValue = " << literal << "\n";
         expected.push_back(v.ToString(hex));
         expected.push_back("True");
+        shown.push_back(c + " from Double " + literal);
+        shown.push_back(c + " from Double " + literal + " back to Double");
     }
     for (int round = 0; round < kRounds; ++round) {
         const std::string text = RandomHex(rng, integer_digits, integer_digits - round, rng() & 1);
@@ -215,16 +233,11 @@ void Agreement::ExpectNativeAgreement(std::uint64_t seed)
         ASSERT_EQ(v.FromString(text, hex), 0u);
         ttmath::sint truncated = 0;
         ASSERT_EQ(v.ToInt(truncated), 0u);
-        script << "x.StringValue(16) = \"" << text << "\"\nPrint x.Int64Value\n";
+        script << "x.StringValue(" << kHexBase << ") = \"" << text << "\"\nPrint x.Int64Value\n";
         expected.push_back(std::to_string(truncated));
+        shown.push_back(c + " " + text + " as Int64");
     }
-
-    std::istringstream printed(Output(script.str()));
-    std::string line;
-    for (const std::string & want : expected) {
-        ASSERT_TRUE(std::getline(printed, line)) << c << ": the script printed fewer lines";
-        EXPECT_EQ(line, want) << c;
-    }
+    ExpectPrinted(script.str(), expected, shown);
 }
 
 TEST_F(Agreement, NativeValuesCrossAsTheCoreConvertsThem)
